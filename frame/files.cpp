@@ -1,0 +1,128 @@
+#include "frame/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+std::string GameDirectory = ".";
+
+std::string HostPath(std::string_view Path)
+{
+    std::string Host = GameDirectory + std::string(Path);
+    std::replace(Host.begin() + static_cast<std::ptrdiff_t>(GameDirectory.size()), Host.end(), '\\',
+                 '/');
+    return Host;
+}
+
+std::string FourDigits(int Number)
+{
+    const std::string Digits = "0000" + std::to_string(Number);
+    return Digits.substr(Digits.size() - 4);
+}
+
+std::string DataFile(std::string_view Prefix, int Number)
+{
+    return "\\DATA\\" + std::string(Prefix) + FourDigits(Number);
+}
+
+bool FileExists(std::string_view Path)
+{
+    struct stat Status;
+    return stat(HostPath(Path).c_str(), &Status) == 0 && S_ISREG(Status.st_mode);
+}
+
+bool ReadWholeFile(std::string_view Path, Bytes& Content)
+{
+    Content.clear();
+    const int Handle = OpenForReading(HostPath(Path));
+    if (Handle == 0) return false;
+    Content.resize(static_cast<std::size_t>(FileLength(Handle)));
+    const int Read = ReadAt(Handle, 0, Content.data(), static_cast<int>(Content.size()));
+    CloseFile(Handle);
+    Content.resize(static_cast<std::size_t>(Read));
+    return true;
+}
+
+static bool WriteAndSync(int Handle, std::span<const std::uint8_t> Content)
+{
+    while (!Content.empty()) {
+        const ssize_t Written = write(Handle, Content.data(), Content.size());
+        if (Written < 0 && errno == EINTR) continue;
+        if (Written < 0) return false;
+        Content = Content.subspan(static_cast<std::size_t>(Written));
+    }
+    return fsync(Handle) == 0;
+}
+
+static void SyncFolder(const std::string& Folder)
+{
+    const int Handle = open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (Handle < 0) return; // the rename has happened; only its moment is less certain
+    fsync(Handle);
+    close(Handle);
+}
+
+bool WriteWholeFile(std::string_view Path, std::span<const std::uint8_t> Content, std::string& Why)
+{
+    const std::string Final = HostPath(Path);
+    const std::string Folder = Final.substr(0, Final.rfind('/'));
+    mkdir(Folder.c_str(), 0777);
+    // The process number keeps two games in one directory from writing into one another's file.
+    const std::string Beside = Final + ".new" + std::to_string(getpid());
+    const int Handle = open(Beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    bool Done = Handle >= 0 && WriteAndSync(Handle, Content);
+    if (!Done) Why = std::strerror(errno);
+    if (Handle >= 0 && close(Handle) != 0 && Done) {
+        Why = std::strerror(errno);
+        Done = false;
+    }
+    if (Done && rename(Beside.c_str(), Final.c_str()) != 0) {
+        Why = std::strerror(errno);
+        Done = false;
+    }
+    if (!Done) {
+        if (Handle >= 0) unlink(Beside.c_str());
+        return false;
+    }
+    SyncFolder(Folder);
+    return true;
+}
+
+int OpenForReading(const std::string& Path)
+{
+    const int Handle = open(Path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (Handle < 0) return 0;
+    struct stat Status;
+    if (fstat(Handle, &Status) != 0 || !S_ISREG(Status.st_mode)) {
+        close(Handle);
+        return 0;
+    }
+    return Handle;
+}
+
+long long FileLength(int Handle)
+{
+    struct stat Status;
+    return fstat(Handle, &Status) == 0 ? static_cast<long long>(Status.st_size) : 0;
+}
+
+int ReadAt(int Handle, long long Offset, void* Into, int Count)
+{
+    int Read = 0;
+    while (Read < Count) {
+        const ssize_t Got = pread(Handle, static_cast<char*>(Into) + Read,
+                                  static_cast<std::size_t>(Count - Read), Offset + Read);
+        if (Got < 0 && errno == EINTR) continue;
+        if (Got <= 0) break;
+        Read += static_cast<int>(Got);
+    }
+    return Read;
+}
+
+void CloseFile(int Handle)
+{
+    close(Handle);
+}
