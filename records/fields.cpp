@@ -1,0 +1,192 @@
+#include "records/fields.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+static std::uint8_t& ByteAt(RecordFile& File, int Offset)
+{
+    if (Offset < 0 || Offset >= static_cast<int>(File.Content.size()))
+        FatalError("field offset " + std::to_string(Offset) + " is outside a record file of " +
+                   std::to_string(File.Content.size()) + " bytes");
+    return File.Content[static_cast<std::size_t>(Offset)];
+}
+
+static void PutNumber(RecordFile& File, int Offset, int Width, int Value)
+{
+    for (int I = 0; I < Width; ++I)
+        ByteAt(File, Offset + I) =
+            static_cast<std::uint8_t>(static_cast<std::uint32_t>(Value) >> (8 * I));
+}
+
+static std::uint32_t TakeNumber(RecordFile& File, int Offset, int Width)
+{
+    std::uint32_t Value = 0;
+    for (int I = 0; I < Width; ++I)
+        Value |= static_cast<std::uint32_t>(ByteAt(File, Offset + I)) << (8 * I);
+    return Value;
+}
+
+static int LegalOrZero(int Value, Legal Values)
+{
+    return Value >= Values.Low && Value <= Values.High ? Value : 0;
+}
+
+void FieldByte(RecordFile& File, int Offset, I16& Value, Legal Values)
+{
+    if (File.Writing)
+        PutNumber(File, Offset, 1, Value);
+    else
+        Value = LegalOrZero(static_cast<int>(TakeNumber(File, Offset, 1)), Values);
+}
+
+void Field16(RecordFile& File, int Offset, I16& Value, Legal Values)
+{
+    if (File.Writing)
+        PutNumber(File, Offset, 2, Value);
+    else
+        Value = LegalOrZero(static_cast<std::int16_t>(TakeNumber(File, Offset, 2)), Values);
+}
+
+void Field32(RecordFile& File, int Offset, I32& Value, Legal Values)
+{
+    if (File.Writing)
+        PutNumber(File, Offset, 4, Value);
+    else
+        Value = LegalOrZero(static_cast<std::int32_t>(TakeNumber(File, Offset, 4)), Values);
+}
+
+// --- texts ---
+
+// UTF-8 to Latin-1. A character that a single byte cannot hold is filed as "?".
+static std::string SingleBytes(const std::string& Text)
+{
+    std::string Result;
+    for (std::size_t I = 0; I < Text.size(); ++I) {
+        const auto Byte = static_cast<std::uint8_t>(Text[I]);
+        if (Byte < 0x80) {
+            Result += Text[I];
+        } else if ((Byte == 0xC2 || Byte == 0xC3) && I + 1 < Text.size()) {
+            Result +=
+                static_cast<char>((Byte << 6) | (static_cast<std::uint8_t>(Text[++I]) & 0x3F));
+        } else if (Byte >= 0xC0) {
+            Result += '?'; // the bytes that follow it, 0x80 to 0xBF, belong to it
+        }
+    }
+    return Result;
+}
+
+static std::string Utf8(std::uint8_t Byte)
+{
+    if (Byte < ' ' || (Byte > '~' && Byte < 0xA0)) return " ";
+    if (Byte < 0x80) return std::string(1, static_cast<char>(Byte));
+    return {static_cast<char>(0xC0 | (Byte >> 6)), static_cast<char>(0x80 | (Byte & 0x3F))};
+}
+
+std::string Trimmed(const std::string& Text)
+{
+    const std::size_t First = Text.find_first_not_of(' ');
+    if (First == std::string::npos) return "";
+    return Text.substr(First, Text.find_last_not_of(' ') - First + 1);
+}
+
+std::string LowerCase(const std::string& Text)
+{
+    std::string Result = Text;
+    for (std::size_t I = 0; I < Result.size(); ++I) {
+        const auto Byte = static_cast<std::uint8_t>(Result[I]);
+        if (Byte >= 'A' && Byte <= 'Z') Result[I] = static_cast<char>(Byte + 0x20);
+        // U+00C0 to U+00DE, but for the sign of multiplication
+        const bool AfterC3 = I > 0 && static_cast<std::uint8_t>(Result[I - 1]) == 0xC3;
+        if (AfterC3 && Byte >= 0x80 && Byte <= 0x9E && Byte != 0x97)
+            Result[I] = static_cast<char>(Byte + 0x20);
+    }
+    return Result;
+}
+
+void FieldText(RecordFile& File, int Offset, std::string& Text, int Width)
+{
+    if (File.Writing) {
+        const std::string Aligned =
+            std::string(static_cast<std::size_t>(Width), ' ') + SingleBytes(Text);
+        const std::size_t Start = Aligned.size() - static_cast<std::size_t>(Width);
+        for (int I = 0; I < Width; ++I)
+            ByteAt(File, Offset + I) =
+                static_cast<std::uint8_t>(Aligned[Start + static_cast<std::size_t>(I)]);
+        return;
+    }
+    std::string Read;
+    for (int I = 0; I < Width; ++I) Read += Utf8(ByteAt(File, Offset + I));
+    Text = Trimmed(Read);
+}
+
+// --- whole files ---
+
+RecordFile NewRecordFile(int Size)
+{
+    return {true, Bytes(static_cast<std::size_t>(Size))};
+}
+
+// Opened to append, it is made if it is missing and otherwise stays as it is: a second game may
+// have saved it a moment ago.
+static void MakeMissingFile(const std::string& Host)
+{
+    std::error_code Ignored;
+    if (!std::filesystem::exists(std::filesystem::symlink_status(Host, Ignored)))
+        std::ofstream(Host, std::ios::app);
+}
+
+RecordFile ReadRecordFile(const std::string& Path, int Size)
+{
+    RecordFile File{false, Bytes(static_cast<std::size_t>(Size))};
+    const std::string Host = HostPath(Path);
+    const int Handle = OpenForReading(Host);
+    if (Handle == 0) {
+        MakeMissingFile(Host);
+        return File;
+    }
+    ReadAt(Handle, 0, File.Content.data(), Size);
+    CloseFile(Handle);
+    return File;
+}
+
+// No version of a record file was ever longer: what is, is no record file of ours.
+constexpr long long LongestFile = 1 << 20;
+
+// Appends what the file on disk has beyond the content.
+static bool AppendTail(const std::string& Path, Bytes& Content)
+{
+    const int Handle = OpenForReading(HostPath(Path));
+    if (Handle == 0) return true;
+    const long long Length = FileLength(Handle);
+    const auto Size = static_cast<long long>(Content.size());
+    bool Whole = Length <= LongestFile;
+    if (Whole && Length > Size) {
+        const int Count = static_cast<int>(Length - Size);
+        Content.resize(static_cast<std::size_t>(Length));
+        Whole = ReadAt(Handle, Size, Content.data() + Size, Count) == Count;
+    }
+    CloseFile(Handle);
+    return Whole;
+}
+
+// A file that stands there and refuses to be read was taken as empty. It may hold years of scores,
+// so it is not replaced.
+static bool IsUnreadable(const std::string& Path)
+{
+    const int Handle = OpenForReading(HostPath(Path));
+    if (Handle != 0) CloseFile(Handle);
+    return Handle == 0 && FileExists(Path);
+}
+
+void SaveRecordFile(const std::string& Path, RecordFile& File, const std::string& What,
+                    bool KeepTail)
+{
+    std::string Why;
+    bool Saved = false;
+    if (IsUnreadable(Path) || (KeepTail && !AppendTail(Path, File.Content)))
+        Why = "the old file cannot be read";
+    else
+        Saved = WriteWholeFile(Path, File.Content, Why);
+    if (!Saved) Platform.ReportTrouble("The " + What + " could not be saved: " + Why + ".");
+}

@@ -1,0 +1,96 @@
+// records_test.h: what the tests of the records share: a game directory of their own, and the bytes
+// of the files put together field after field, apart from the program's own tables.
+#pragma once
+
+#include "frame/files.h"
+#include "records/records.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+inline std::vector<std::string> Troubles; // what the player was told
+inline DateTime Today = {2026, 1, 2, 3, 4, 5};
+
+// A fresh game in an empty directory.
+struct RecordsTest : testing::Test {
+    RecordsTest()
+    {
+        char Name[] = "/tmp/pagodas-records-XXXXXX";
+        GameDirectory = mkdtemp(Name);
+        FreshState();
+        BuildTables();
+        Troubles.clear();
+        Today = {2026, 1, 2, 3, 4, 5};
+        Platform.ReportTrouble = [](const std::string& Text) { Troubles.push_back(Text); };
+        Platform.Now = [] { return Today; };
+    }
+    ~RecordsTest() override
+    {
+        std::error_code Ignored;
+        std::filesystem::remove_all(GameDirectory, Ignored);
+        GameDirectory = ".";
+        FreshState();
+    }
+    // As after the scan of the packs 1 and 4.
+    static void InstallPacks()
+    {
+        GameState.LayoutListCount = 5;
+        GameState.TileSetCount = 120;
+        const int Lists[] = {0, 1, 2, 3, 6};
+        for (int I = 1; I <= 5; ++I) GameState.LayoutSets(I) = Lists[I - 1];
+    }
+    static void FreshState()
+    {
+        static const GameStateRecord Zero; // too large for a stack
+        GameState = Zero;
+    }
+};
+
+// --- bytes ---
+
+struct FileBytes {
+    std::string Bytes;
+
+    FileBytes& Number(int Value, int Width = 2)
+    {
+        const auto Bits = static_cast<unsigned>(Value);
+        for (int Shift = 0; Shift < 8 * Width; Shift += 8)
+            Bytes += static_cast<char>((Bits >> Shift) & 255);
+        return *this;
+    }
+    // Right-aligned in blanks; a longer text loses its head.
+    FileBytes& Text(std::string Value, std::size_t Width)
+    {
+        while (Value.size() < Width) Value.insert(Value.begin(), ' ');
+        Bytes += Value.substr(Value.size() - Width);
+        return *this;
+    }
+};
+
+inline std::string Place(const std::string& File)
+{
+    return GameDirectory + "/" + File;
+}
+inline std::string FileContent(const std::string& File)
+{
+    std::ifstream In(Place(File), std::ios::binary);
+    return {std::istreambuf_iterator<char>(In), {}};
+}
+inline void PutFile(const std::string& File, const std::string& Content)
+{
+    std::filesystem::create_directories(std::filesystem::path(Place(File)).parent_path());
+    std::ofstream(Place(File), std::ios::binary) << Content;
+}
+// Says where two files differ, or "".
+inline std::string FirstDifference(const std::string& Got, const std::string& Wanted)
+{
+    if (Got.size() != Wanted.size())
+        return std::to_string(Got.size()) + " bytes instead of " + std::to_string(Wanted.size());
+    for (std::size_t I = 0; I < Got.size(); ++I)
+        if (Got[I] != Wanted[I]) return "byte " + std::to_string(I);
+    return "";
+}
