@@ -174,6 +174,10 @@ const Element* HitTest(float X, float Y); // topmost visible element of frmMain,
 const Element* SendMouseMove(float X, float Y);
 const Element* SendMouseDown(MouseButton Button, float X, float Y);
 const Element* SendMouseUp(MouseButton Button, float X, float Y);
+// To an element whatever covers it. An element with a Press or an Action is an image button.
+void DeliverMouseMove(const Element& E, int X, int Y);
+void DeliverMouseDown(const Element& E, MouseButton Button, int X, int Y);
+void DeliverMouseUp(const Element& E, MouseButton Button, int X, int Y);
 void SendKeyDown(std::string_view Key, bool Shift, bool Ctrl, bool Alt); // "up", "a", ...
 void SendText(const Element& TextBox, std::string_view Text); // typed or pasted: the new text
 void SendKeyPress(const Element& TextBox, int Key);

@@ -1,4 +1,4 @@
-#include "frame/elements.h"
+#include "frame/frame.h"
 
 void (*MainKeyDown)(std::string_view Key, bool Shift, bool Ctrl, bool Alt) = nullptr;
 
@@ -15,12 +15,34 @@ static Inside PointIn(const Element& E, float X, float Y)
     return {static_cast<int>(X - Place.X), static_cast<int>(Y - Place.Y)};
 }
 
+static bool IsImageButton(const Element& E)
+{
+    return E.Does.Press || E.Does.Action;
+}
+
+void DeliverMouseMove(const Element& E, int X, int Y)
+{
+    if (E.Does.MouseMove) E.Does.MouseMove(E.Index, MouseButton::Left, X, Y);
+}
+
+void DeliverMouseDown(const Element& E, MouseButton Button, int X, int Y)
+{
+    if (IsImageButton(E)) ImageButtonDown(E, Button);
+    if (E.Does.MouseDown) E.Does.MouseDown(E.Index, Button, X, Y);
+}
+
+void DeliverMouseUp(const Element& E, MouseButton Button, int X, int Y)
+{
+    if (IsImageButton(E)) ImageButtonUp(E, Button);
+    if (E.Does.MouseUp) E.Does.MouseUp(E.Index, Button, X, Y);
+}
+
 const Element* SendMouseMove(float X, float Y)
 {
     const Element* Hit = HitTest(X, Y);
     if (!Hit) return nullptr;
     const Inside At = PointIn(*Hit, X, Y);
-    if (Hit->Does.MouseMove) Hit->Does.MouseMove(Hit->Index, MouseButton::Left, At.X, At.Y);
+    DeliverMouseMove(*Hit, At.X, At.Y);
     return Hit;
 }
 
@@ -31,7 +53,7 @@ const Element* SendMouseDown(MouseButton Button, float X, float Y)
     if (!Hit) return nullptr;
     if (Hit->Kind == ElementKind::TextBox) SetFocus(*Hit);
     const Inside At = PointIn(*Hit, X, Y);
-    if (Hit->Does.MouseDown) Hit->Does.MouseDown(Hit->Index, Button, At.X, At.Y);
+    DeliverMouseDown(*Hit, Button, At.X, At.Y);
     return Hit;
 }
 
@@ -42,7 +64,7 @@ const Element* SendMouseUp(MouseButton Button, float X, float Y)
     PressedId = NoElement;
     if (!Hit) return nullptr;
     const Inside At = PointIn(*Hit, X, Y);
-    if (Hit->Does.MouseUp) Hit->Does.MouseUp(Hit->Index, Button, At.X, At.Y);
+    DeliverMouseUp(*Hit, Button, At.X, At.Y);
     if (Clicked && Hit->Does.Click) Hit->Does.Click(Hit->Index);
     return Hit;
 }

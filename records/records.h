@@ -35,3 +35,9 @@ void RecordGame(int Outcome, const std::string& Name, const std::string& Place, 
                 int Score);
 void LoadWonLost();
 void SaveWonLost();
+
+// end_panels.cpp: the panels of a finished game and the name that a high score asks for
+void ShowCongratulations();   // no place in the table
+void ShowNewHigh();           // a place: asks for the name
+std::string TypedName();      // of txtName, trimmed, in lower case
+void SetRecordHandlers();

@@ -53,7 +53,9 @@ TEST(RunLayouts, TwelveNumbersAndNoOther)
     for (int Number = -1; Number <= 121; ++Number) {
         const RunLayout* Found = FindRunLayout(Number);
         EXPECT_EQ(Found != nullptr, Held.count(Number) == 1) << Number;
-        if (Found) EXPECT_EQ(Found->Number, Number);
+        if (Found) {
+            EXPECT_EQ(Found->Number, Number);
+        }
     }
 }
 
