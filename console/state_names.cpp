@@ -28,10 +28,6 @@ static std::string ValueText(const std::uint8_t& Value)
 {
     return std::to_string(Value);
 }
-static std::string ValueText(const int& Value)
-{
-    return std::to_string(Value);
-}
 static std::string ValueText(const std::string& Value)
 {
     return QuotedText(Value);
