@@ -8,7 +8,20 @@ struct KindRow {
 };
 
 constexpr KindRow Kinds[] = {
+    {"bug", DrawBug},
+    {"butterfly", DrawButterfly},
     {"classic", DrawClassic},
+    {"colour", DrawColourSample},
+    {"dog", DrawDog},
+    {"egg", DrawEgg},
+    {"fish", DrawFish},
+    {"flower", DrawFlower},
+    {"letter", DrawLetterSample},
+    {"mask", DrawMask},
+    {"plane", DrawPlane},
+    {"service", DrawService},
+    {"shoe", DrawShoe},
+    {"tree", DrawTree},
 };
 
 constexpr const char* PictureKinds[] = {"emoji", "clipart", "flag", "symbola", "maya", "aegyptus"};

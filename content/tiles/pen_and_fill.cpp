@@ -30,6 +30,7 @@ void StrokeLine(QPainter& G, double X1, double Y1, double X2, double Y2, const Q
 void Outline(QPainter& G, const QPainterPath& Path, const Paint& With, const QColor& Edge,
              double Width)
 {
+    if (!Edge.isValid()) return Outline(G, Path, With, Width);
     G.setPen(Line(Edge, Width));
     G.setBrush(With.Brush);
     G.drawPath(Path);

@@ -35,7 +35,7 @@ bool Has(const Recipe& R, const char* Key);
 QString Text(const Recipe& R, const char* Key, const QString& Default = {});
 double Number(const Recipe& R, const char* Key, double Default = 0);
 int Whole(const Recipe& R, const char* Key, int Default = 0);
-QColor Colour(const Recipe& R, const char* Key, const QColor& Default);
+QColor Colour(const Recipe& R, const char* Key, const QColor& Default = {});
 QStringList Words(const Recipe& R, const char* Key, const char* Between); // "a+b" with "+": a, b
 std::vector<QColor> Colours(const Recipe& R, const char* Key, const char* Default = "");
 
@@ -76,4 +76,17 @@ using DrawKind = void (*)(QPainter& P, const Recipe& R);
 void DrawFace(QPainter& P, const Face& F);
 
 // one file each: drawings by recipe
+void DrawBug(QPainter& P, const Recipe& R);
+void DrawButterfly(QPainter& P, const Recipe& R);
 void DrawClassic(QPainter& P, const Recipe& R);
+void DrawColourSample(QPainter& P, const Recipe& R);
+void DrawDog(QPainter& P, const Recipe& R);
+void DrawEgg(QPainter& P, const Recipe& R);
+void DrawFish(QPainter& P, const Recipe& R);
+void DrawFlower(QPainter& P, const Recipe& R);
+void DrawLetterSample(QPainter& P, const Recipe& R);
+void DrawMask(QPainter& P, const Recipe& R);
+void DrawPlane(QPainter& P, const Recipe& R);
+void DrawService(QPainter& P, const Recipe& R);
+void DrawShoe(QPainter& P, const Recipe& R);
+void DrawTree(QPainter& P, const Recipe& R);

@@ -1,0 +1,105 @@
+// colour_samples.cpp: one colour as a splash of paint, a tube, a crayon or a gem
+
+#include "drawing.h"
+
+struct ColourSample {
+    const Recipe& R;
+    QColor Tint;
+    QString Kind;
+    QColor Edge;
+};
+
+static void DrawSplat(QPainter& G, const ColourSample& Own)
+{
+    Points Pts;
+    Random Chance{static_cast<std::uint64_t>(Whole(Own.R, "seed", 1))};
+    for (int I = 0; I < 22; ++I) {
+        const double A = I * 2 * M_PI / 22;
+        const double R = (I % 2 == 0 ? 44 : 27) * Uniform(Chance, .82, 1.08);
+        Pts.push_back({50 + R * std::cos(A), 50 + R * std::sin(A)});
+    }
+    QPainterPath Path = ClosedCurve(Pts, .8);
+    Outline(G, Path, Radial(40, 36, 60, {Light(Own.Tint, .35), Own.Tint, Dark(Own.Tint, .12)}),
+            Own.Edge, 1.8);
+    Fill(G, Ellipse(38, 34, 9, 5, -30), Alpha("#ffffff", .55));
+}
+
+static void DrawTube(QPainter& G, const ColourSample& Own)
+{
+    G.translate(50, 50);
+    G.rotate(-38);
+    G.translate(-50, -50);
+    Outline(G, Polygon({{28, 4}, {72, 4}, {66, 70}, {34, 70}}),
+            Linear(30, 0, 70, 0, {"#c8d0d8", "#ffffff", "#aab4be"}), "#5a6470", 1.6);
+    Outline(G, Rounded(26, 0, 48, 7, 2), "#b8c0c8", "#5a6470", 1.3);
+    Outline(G, Polygon({{30.5, 22}, {69.5, 22}, {67, 58}, {33, 58}}), Own.Tint, Own.Edge, 1.3);
+    Outline(G, Rounded(42, 70, 16, 8, 1), "#3a3f46", "#111", 1.2);
+    QPainterPath Path = ClosedCurve({{46, 78},
+                                     {54, 78},
+                                     {60, 90},
+                                     {52, 100},
+                                     {60, 108},
+                                     {46, 112},
+                                     {36, 104},
+                                     {46, 96},
+                                     {42, 88}});
+    Outline(G, Path, Linear(40, 0, 60, 0, {Light(Own.Tint, .3), Own.Tint}), Own.Edge, 1.4);
+}
+
+static void DrawCrayon(QPainter& G, const ColourSample& Own)
+{
+    G.translate(50, 50);
+    G.rotate(45);
+    G.translate(-50, -50);
+    Outline(G, Polygon({{38, 20}, {45, -6}, {55, -6}, {62, 20}}),
+            Linear(38, 0, 62, 0, {Light(Own.Tint, .3), Own.Tint, Dark(Own.Tint, .2)}), Own.Edge,
+            1.6);
+    Outline(G, Rounded(36, 18, 28, 84, 3),
+            Linear(36, 0, 64, 0, {Light(Own.Tint, .35), Own.Tint, Dark(Own.Tint, .25)}), Own.Edge,
+            1.6);
+    for (const double Y : {30, 36, 86, 92}) {
+        StrokeLine(G, 37, Y, 63, Y,
+                   Own.Tint.lightness() > 60 ? QColor("#1a1a1a") : QColor("#ffffff"), 2.4);
+    }
+    Outline(G, Ellipse(50, 61, 8, 16),
+            Own.Tint.lightness() < 200 ? Light(Own.Tint, .55) : QColor("#fff6c0"), Own.Edge, 1.3);
+}
+
+static void DrawGem(QPainter& G, const ColourSample& Own)
+{
+    const Points T = {{20, 30}, {34, 14}, {66, 14}, {80, 30}, {50, 90}};
+    Outline(G, Polygon(T),
+            Linear(20, 14, 80, 90, {Light(Own.Tint, .5), Own.Tint, Dark(Own.Tint, .3)}), Own.Edge,
+            1.8);
+    for (const auto& [Pts, F] :
+         Table<Points, double>{{{{20, 30}, {34, 14}, {38, 30}}, .35},
+                               {{{34, 14}, {66, 14}, {62, 30}, {38, 30}}, .6},
+                               {{{66, 14}, {80, 30}, {62, 30}}, .2},
+                               {{{20, 30}, {38, 30}, {50, 90}}, -.05},
+                               {{{38, 30}, {62, 30}, {50, 90}}, .25},
+                               {{{62, 30}, {80, 30}, {50, 90}}, -.25}})
+        Outline(G, Polygon(Pts), F > 0 ? Light(Own.Tint, F) : Dark(Own.Tint, -F), Own.Edge, 1.1);
+    Fill(G, Polygon({{42, 18}, {50, 18}, {44, 26}, {40, 26}}), Alpha("#ffffff", .7));
+}
+
+static constexpr FigureRow<const ColourSample> Figures[] = {
+    {"splat", DrawSplat},
+    {"tube", DrawTube},
+    {"crayon", DrawCrayon},
+    {"gem", DrawGem},
+};
+
+static void Draw(QPainter& G, const ColourSample& Own)
+{
+    DrawFigure(G, Own, Figures, Own.Kind, Own.R);
+}
+
+void DrawColourSample(QPainter& P, const Recipe& R)
+{
+    const QColor Tint = Colour(R, "c");
+    const QString Kind = Text(R, "k");
+    const QColor Edge = Dark(Tint, .5);
+    const ColourSample Own{R, Tint, Kind, Edge};
+    const auto Drawing = [&](QPainter& G) { Draw(G, Own); };
+    DrawFittedDraft(P, Drawing);
+}
