@@ -15,6 +15,12 @@ using Palette = std::vector<Colour>; // evenly spaced stops
 using Field = std::vector<float>;    // Width * Height numbers, row by row
 using Picture = std::vector<Colour>; // Width * Height colours, row by row
 
+// Where a place stands in a field or picture.
+inline std::size_t Pixel(float X, float Y)
+{
+    return static_cast<std::size_t>(Y) * Width + static_cast<std::size_t>(X);
+}
+
 // colours
 Colour ColourOf(const std::string& Name); // "#rrggbb"; throws std::runtime_error
 Colour Mix(Colour A, Colour B, float T);  // A at 0, B at 1

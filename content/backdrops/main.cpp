@@ -18,6 +18,44 @@ constexpr Family FamilyTable[] = {
     {"unauthored", DrawUnauthored},
     {"felt", DrawFelt},
     {"granite", DrawGranite},
+    {"sand", DrawSand},
+    {"micro", DrawMicro},
+    {"scratched", DrawScratched},
+    {"rock", DrawRock},
+    {"crumbs", DrawCrumbs},
+    {"moon", DrawMoon},
+    {"marble", DrawMarble},
+    {"veins", DrawVeins},
+    {"threads", DrawThreads},
+    {"sky", DrawSky},
+    {"gas", DrawGas},
+    {"velvet", DrawVelvet},
+    {"stars", DrawStars},
+    {"leather", DrawLeather},
+    {"paving", DrawPaving},
+    {"crystal", DrawCrystal},
+    {"ice", DrawIce},
+    {"planks", DrawPlanks},
+    {"streaks", DrawStreaks},
+    {"reeds", DrawReeds},
+    {"silk", DrawSilk},
+    {"echo", DrawEcho},
+    {"carved", DrawCarved},
+    {"kaleidoscope", DrawKaleidoscope},
+    {"woven", DrawWoven},
+    {"floor", DrawFloor},
+    {"chocolate", DrawChocolate},
+    {"bricks", DrawBricks},
+    {"scales", DrawScales},
+    {"straw", DrawStraw},
+    {"chips", DrawChips},
+    {"grass", DrawGrass},
+    {"beans", DrawBeans},
+    {"candy", DrawCandy},
+    {"cars", DrawCars},
+    {"flowers", DrawFlowers},
+    {"emboss", DrawEmboss},
+    {"forest", DrawForest},
 };
 
 constexpr float UsualCalm = 0.085F, UsualVignette = 0.14F;
@@ -49,7 +87,7 @@ static QByteArray Encoded(const QImage& Image, const char* Format, int Quality)
 // Without loss where that is small enough, else as good as fits.
 static QByteArray PictureFile(const QImage& Image)
 {
-    QByteArray Bytes = Encoded(Image, "png", 0);
+    QByteArray Bytes = Encoded(Image, "png", 60);
     for (int Quality = 97; Bytes.size() > WantedBytes && Quality >= 88; Quality -= 3)
         Bytes = Encoded(Image, "jpg", Quality);
     return Bytes;
