@@ -10,7 +10,7 @@ struct Look {
     TextFont Font;
     Colour Ink;
     bool Art = false, OnTop = false, Pair = false;
-    int Interval = 0, Columns = 1, Rows = 1;
+    int Interval = 0, Columns = 1, Rows = 1, Shade = 0;
 };
 
 namespace looks
@@ -39,6 +39,10 @@ constexpr Look TopText(FontFace Face, int Size, bool Weight, Align Place, int R,
     Look Result = Text(Face, Size, Weight, Place, R, G, B);
     Result.OnTop = true;
     return Result;
+}
+constexpr Look Dim(int Shade)
+{
+    return {.Shade = Shade};
 }
 constexpr Look Every(int Interval)
 {
@@ -142,6 +146,7 @@ static void MakeElement(const ElementRow& Row, int Place)
     E.Font = Row.Style.Font;
     E.Ink = Row.Style.Ink;
     E.Interval = Row.Style.Interval;
+    E.Shade = Row.Style.Shade;
     E.Columns = Row.Style.Columns;
     E.Rows = Row.Style.Rows;
     if (Row.Style.Art) E.Shows = FormPicture(E);
@@ -297,6 +302,27 @@ void SetHandlers(const ElementArray& A, const Handlers& Does)
     for (int I = A.First; I < A.First + A.Count; ++I) SetHandlers(A(I), Does);
 }
 
+void DrawBox(const Element& Panel, const FilledBox& Box)
+{
+    std::vector<FilledBox>& Boxes = Changeable(Panel).Boxes;
+    const auto Same = [&](const FilledBox& Other) {
+        return Other.Left == Box.Left && Other.Top == Box.Top && Other.Right == Box.Right &&
+               Other.Bottom == Box.Bottom;
+    };
+    const auto Found = std::find_if(Boxes.begin(), Boxes.end(), Same);
+    if (Found == Boxes.end())
+        Boxes.push_back(Box);
+    else
+        Found->Ink = Box.Ink;
+    MarkStale(Panel);
+}
+
+void ClearBoxes(const Element& Panel)
+{
+    Changeable(Panel).Boxes.clear();
+    MarkStale(Panel);
+}
+
 void SetLine(const Element& E, int X1, int Y1, int X2, int Y2)
 {
     if (static_cast<int>(E.Left) == X1 && static_cast<int>(E.Top) == Y1 && E.EndX == X2 &&
@@ -343,12 +369,14 @@ void ClearItems(const Element& E)
 void AddItem(const Element& E, std::string_view Item)
 {
     Changeable(E).Items.emplace_back(Item);
+    ++Changeable(E).ItemsChanged;
     MarkStale(E);
 }
 
 void SetItems(const Element& E, const std::vector<std::string>& Items)
 {
     Changeable(E).Items = Items;
+    ++Changeable(E).ItemsChanged;
     Changeable(E).Caption.clear();
     MarkStale(E);
 }

@@ -59,6 +59,12 @@ struct Handlers {
     IndexHandler Press = nullptr, Action = nullptr;
 };
 
+// A filled box on a panel: its corners, both included, in pixels of the panel.
+struct FilledBox {
+    int Left, Top, Right, Bottom;
+    Colour Ink;
+};
+
 struct Element {
     ElementKind Kind = ElementKind::Picture;
     const char* Name = "";
@@ -79,10 +85,14 @@ struct Element {
     ElementId Behind = NoElement, Before = NoElement;
     ElementId Rearmost = NoElement, Foremost = NoElement;
 
+    int Shade = 0;                // panel: how much it darkens what lies under it, 0..255
+    std::vector<FilledBox> Boxes; // panel: drawn over its picture
+
     bool Enabled = false;           // timer
     int Interval = 0;               // timer: ms
     long long Due = 0;              // timer: on the platform's clock
     std::vector<std::string> Items; // list box
+    int ItemsChanged = 0;           // list box: goes up with every change of its items
     int Columns = 1, Rows = 1;      // store: cells
     int EndX = 0, EndY = 0;         // line: its other end, from Left and Top
 };
@@ -128,6 +138,9 @@ void SetToolTip(const Element& E, std::string_view Text);
 void SetToolTip(const ElementArray& A, std::string_view Text);
 void SetHandlers(const Element& E, const Handlers& Does);
 void SetHandlers(const ElementArray& A, const Handlers& Does);
+void DrawBox(const Element& Panel,
+             const FilledBox& Box); // over a box of the same corners: replaces it
+void ClearBoxes(const Element& Panel);
 void SetLine(const Element& E, int X1, int Y1, int X2, int Y2);
 
 // Text box and list box. A text set by a rule counts as a Change.

@@ -1,0 +1,98 @@
+#include "desktop/desktop.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+constexpr int SmallestFont = 11; // pixels of the screen; a caption shrinks no further
+
+// An element's place on the window, rounded once, in device pixels.
+static QRect PlaceOf(const ScreenView& View, double Left, double Top, double Width, double Height)
+{
+    return QRect(View.OffsetX + qRound(Left * View.Scale), View.OffsetY + qRound(Top * View.Scale),
+                 qRound(Width * View.Scale), qRound(Height * View.Scale));
+}
+
+QFont ElementFont(const Element& E, double Scale)
+{
+    QFont Font(E.Font.Face == FontFace::Serif ? "DejaVu Serif" : "DejaVu Sans");
+    Font.setPixelSize(std::max(1, qRound(E.Font.Size * Scale)));
+    Font.setBold(E.Font.Bold);
+    return Font;
+}
+
+static void PaintCaption(QPainter& Painter, const ScreenView& View, const Element& E,
+                         const QRect& Place)
+{
+    if (E.Caption.empty()) return;
+    const QString Text = QString::fromStdString(E.Caption);
+    QFont Font = ElementFont(E, View.Scale);
+    const int Smallest = qRound(SmallestFont * View.Scale);
+    while (Font.pixelSize() > Smallest &&
+           QFontMetrics(Font).horizontalAdvance(Text) > Place.width())
+        Font.setPixelSize(Font.pixelSize() - 1);
+    constexpr Qt::Alignment Places[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+    Painter.setFont(Font);
+    Painter.setPen(QColor(E.Ink.Red, E.Ink.Green, E.Ink.Blue));
+    Painter.drawText(Place,
+                     static_cast<int>(Places[static_cast<int>(E.Font.Place)] | Qt::AlignVCenter) |
+                         Qt::TextSingleLine | Qt::TextDontClip,
+                     Text);
+}
+
+static void PaintPicture(QPainter& Painter, const ScreenView& View, const Element& E,
+                         const QRect& Place)
+{
+    const Pixels Found = FindPixels(E.Shows, View.Scale);
+    if (!Found.Image) return;
+    // Pictures show at their natural size, cut by the element's edge.
+    const QSize Size = Found.Part.size().boundedTo(Place.size() + QSize(1, 1));
+    Painter.drawImage(Place.topLeft(), *Found.Image, QRect(Found.Part.topLeft(), Size));
+}
+
+static void PaintElement(QPainter& Painter, const ScreenView& View, const Element& E, double Left,
+                         double Top, const QRect& Clip)
+{
+    const QRect Place = PlaceOf(View, Left, Top, E.Width, E.Height);
+    if (!Place.intersects(Clip)) return;
+    switch (E.Kind) {
+    case ElementKind::Picture:
+        PaintPicture(Painter, View, E, Place);
+        break;
+    case ElementKind::Label:
+        PaintCaption(Painter, View, E, Place);
+        break;
+    case ElementKind::Line:
+        Painter.fillRect(Place, QColor(255, 255, 255, 170));
+        break;
+    case ElementKind::Panel: {
+        PaintPicture(Painter, View, E, Place);
+        if (E.Shade) Painter.fillRect(Place, QColor(0, 0, 0, E.Shade));
+        for (const FilledBox& Box : E.Boxes)
+            Painter.fillRect(PlaceOf(View, Left + Box.Left, Top + Box.Top, Box.Right - Box.Left + 1,
+                                     Box.Bottom - Box.Top + 1),
+                             QColor(Box.Ink.Red, Box.Ink.Green, Box.Ink.Blue));
+        for (ElementId Id = E.Rearmost; Id != NoElement; Id = Elements[Id].Before) {
+            const Element& Child = Elements[Id];
+            if (Child.Visible)
+                PaintElement(Painter, View, Child, Left + Child.Left, Top + Child.Top, Clip);
+        }
+        break;
+    }
+    default:
+        break; // text boxes and list boxes are controls laid over the picture
+    }
+}
+
+void PaintScreen(QPainter& Painter, const ScreenView& View, const QRect& Clip)
+{
+    const Element& Screen = *View.Screen;
+    const QRect Whole =
+        PlaceOf(View, 0, 0, Screen.Width / TwipsPerPixel, Screen.Height / TwipsPerPixel);
+    if (!Whole.contains(Clip)) Painter.fillRect(Clip, Qt::black);
+    for (ElementId Id = Screen.Rearmost; Id != NoElement; Id = Elements[Id].Before) {
+        const Element& E = Elements[Id];
+        if (E.Visible) PaintElement(Painter, View, E, E.Left, E.Top, Clip);
+    }
+}

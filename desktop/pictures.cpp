@@ -1,0 +1,173 @@
+#include "desktop/desktop.h"
+#include "frame/files.h"
+
+#include <QImageReader>
+#include <QPainter>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+
+// Where a picture of the program's own design stands on the sheets.
+struct FormRow {
+    int Sheet;
+    QRect Part;
+};
+
+static std::map<std::string, FormRow> FormIndex;
+static std::map<std::string, QImage> Forms;     // at the view's scale, by name
+static std::map<std::string, QImage> Files;     // backdrops, screens: at the view's scale
+static std::map<ElementId, std::string> Stores; // what each store's pixels were made from
+static std::map<ElementId, QImage> StorePixels;
+static double KnownScale = 0;
+
+static QImage ReadPicture(const std::string& File)
+{
+    QImageReader Reader(QString::fromStdString(HostPath(File)));
+    Reader.setDecideFormatFromContent(true);
+    QImage Image = Reader.read();
+    if (Image.isNull()) FatalError(File + ": " + Reader.errorString().toStdString());
+    return Image.convertToFormat(Image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
+}
+
+static QImage Scaled(const QImage& Image, int Width, int Height)
+{
+    if (Image.width() == Width && Image.height() == Height) return Image;
+    return Image.scaled(Width, Height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+// --- pictures of the program's own design ---
+
+static void ReadFormIndex()
+{
+    const std::string File = DataFile("FM", 0);
+    std::ifstream Index(HostPath(File));
+    for (std::string Line; std::getline(Index, Line);) {
+        std::istringstream Words(Line);
+        std::string Name;
+        int Sheet, X, Y, Width, Height;
+        if (Words >> Name >> Sheet >> X >> Y >> Width >> Height)
+            FormIndex[Name] = {Sheet, QRect(X, Y, Width, Height)};
+    }
+    if (FormIndex.empty()) FatalError(File + " is missing or holds no pictures");
+}
+
+constexpr int FormScale = 2; // the sheets are drawn at twice the design size
+
+// Cuts all pictures of a sheet out at the view's scale, so that the large sheet can go again.
+static void CutSheet(int Sheet)
+{
+    const QImage Pixels = ReadPicture(DataFile("FM", Sheet));
+    for (const auto& [Name, Row] : FormIndex) {
+        if (Row.Sheet != Sheet) continue;
+        const int Width = qRound(Row.Part.width() * KnownScale / FormScale);
+        const int Height = qRound(Row.Part.height() * KnownScale / FormScale);
+        Forms[Name] = Scaled(Pixels.copy(Row.Part), std::max(Width, 1), std::max(Height, 1));
+    }
+}
+
+static const QImage* FindForm(const std::string& Name)
+{
+    if (FormIndex.empty()) ReadFormIndex();
+    const auto Row = FormIndex.find(Name);
+    if (Row == FormIndex.end()) return nullptr;
+    if (!Forms.count(Name)) CutSheet(Row->second.Sheet);
+    return &Forms[Name];
+}
+
+// --- picture stores ---
+
+// Scales every cell by itself, so that no cell takes colour from its neighbour.
+static QImage ScaleCells(const QImage& Sheet, int Columns, int Rows, int Width, int Height)
+{
+    const int FromWidth = Sheet.width() / Columns, FromHeight = Sheet.height() / Rows;
+    if (FromWidth == Width && FromHeight == Height) return Sheet;
+    QImage Result(Columns * Width, Rows * Height, QImage::Format_ARGB32_Premultiplied);
+    Result.fill(Qt::transparent);
+    QPainter Painter(&Result);
+    for (int Row = 0; Row < Rows; ++Row)
+        for (int Column = 0; Column < Columns; ++Column) {
+            const QImage Cell =
+                Sheet.copy(Column * FromWidth, Row * FromHeight, FromWidth, FromHeight);
+            Painter.drawImage(Column * Width, Row * Height, Scaled(Cell, Width, Height));
+        }
+    return Result;
+}
+
+static Pixels FindCell(const Element& Store, int Cell, double Scale)
+{
+    const int Width = qRound(Store.Width / static_cast<float>(Store.Columns) * Scale);
+    const int Height = qRound(Store.Height / static_cast<float>(Store.Rows) * Scale);
+    const std::string Source = PictureName(Store.Shows);
+    if (Stores[Store.Id] != Source || StorePixels[Store.Id].isNull()) {
+        if (Store.Shows.Kind == PictureKind::File) {
+            StorePixels[Store.Id] =
+                ScaleCells(ReadPicture(Source), Store.Columns, Store.Rows, Width, Height);
+        } else if (const QImage* Form = FindForm(ElementText(Store))) {
+            StorePixels[Store.Id] = ScaleCells(*Form, Store.Columns, Store.Rows, Width, Height);
+        } else {
+            return {};
+        }
+        Stores[Store.Id] = Source;
+    }
+    const int Column = Cell % Store.Columns, Row = Cell / Store.Columns;
+    return {&StorePixels[Store.Id], QRect(Column * Width, Row * Height, Width, Height)};
+}
+
+// --- files ---
+
+// Drops what no element shows any more: a rotation of backdrops keeps one in memory.
+static void DropUnusedFiles()
+{
+    std::erase_if(Files, [](const auto& Kept) {
+        for (const Element& E : Elements)
+            if (E.Shows.Kind == PictureKind::File && PictureFile(E.Shows) == Kept.first)
+                return false;
+        return true;
+    });
+}
+
+static Pixels FindFile(const Picture& P, double Scale)
+{
+    const std::string File = PictureFile(P);
+    auto Found = Files.find(File);
+    if (Found == Files.end()) {
+        DropUnusedFiles();
+        const QImage Image = ReadPicture(File);
+        Found = Files
+                    .emplace(File, Scaled(Image, qRound(Image.width() * Scale),
+                                          qRound(Image.height() * Scale)))
+                    .first;
+    }
+    return {&Found->second, Found->second.rect()};
+}
+
+void ForgetPixels()
+{
+    Forms.clear();
+    Files.clear();
+    Stores.clear();
+    StorePixels.clear();
+}
+
+Pixels FindPixels(const Picture& P, double Scale)
+{
+    if (Scale != KnownScale) {
+        ForgetPixels();
+        KnownScale = Scale;
+    }
+    switch (P.Kind) {
+    case PictureKind::None:
+        return {};
+    case PictureKind::File:
+        return FindFile(P, Scale);
+    case PictureKind::Cell:
+        return FindCell(Elements[P.Owner], P.Number, Scale);
+    case PictureKind::Stock:
+    case PictureKind::Form:
+        break;
+    }
+    const QImage* Form = FindForm(ElementText(Elements[P.Owner]));
+    return Form ? Pixels{Form, Form->rect()} : Pixels{};
+}

@@ -1,0 +1,420 @@
+#include "desktop/desktop.h"
+#include "frame/files.h"
+#include "frame/frame.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QHelpEvent>
+#include <QIcon>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QTimer>
+#include <QToolTip>
+#include <QUrl>
+#include <QWindow>
+
+#include <iostream>
+#include <map>
+
+// The window: what it is asked to be, and what stands on it.
+struct GameWindow : QWidget {
+    void paintEvent(QPaintEvent* Event) override;
+    void mouseMoveEvent(QMouseEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
+    void mouseDoubleClickEvent(QMouseEvent* Event) override { mousePressEvent(Event); }
+    void keyPressEvent(QKeyEvent* Event) override;
+    void closeEvent(QCloseEvent* Event) override;
+    void changeEvent(QEvent* Event) override;
+    bool event(QEvent* Event) override;
+};
+
+static GameWindow* Window = nullptr;
+static QTimer* Clock = nullptr;
+static QElapsedTimer SinceStart;
+static bool FullScreen = false, Minimised = false, Ended = false;
+static const Element* ScreenOnShow = nullptr; // as the window was last brought up
+static bool ShownFullScreen = false;
+static std::map<ElementId, QLineEdit*> TextBoxes;
+static std::map<ElementId, QComboBox*> ListBoxes;
+static std::map<ElementId, int> ListBoxItems; // the ItemsChanged that a box holds
+
+static ScreenView View()
+{
+    return FitScreen(ScreenOnShow ? *ScreenOnShow : frmSplash, *Window, ShownFullScreen);
+}
+
+// --- what changed in the model goes to the window ---
+
+static const Element* VisibleScreen()
+{
+    if (frmMain.Visible) return &frmMain;
+    return frmSplash.Visible ? &frmSplash : nullptr;
+}
+
+static void PlaceWindow(const Element& Screen)
+{
+    const QRect Desktop = Window->screen()->geometry();
+    Window->move(Desktop.topLeft() + QPoint(static_cast<int>(Screen.Left) / TwipsPerPixel,
+                                            static_cast<int>(Screen.Top) / TwipsPerPixel));
+}
+
+static void BringUpWindow()
+{
+    const Element* Screen = VisibleScreen();
+    if (!Screen || Minimised || Ended) return;
+    if (Screen == ScreenOnShow && FullScreen == ShownFullScreen && Window->isVisible()) return;
+    ScreenOnShow = Screen;
+    ShownFullScreen = FullScreen;
+    if (FullScreen) {
+        Window->setMinimumSize(0, 0);
+        Window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        Window->showFullScreen();
+    } else {
+        Window->setWindowFlag(Qt::FramelessWindowHint, Screen == &frmSplash);
+        Window->setFixedSize(static_cast<int>(Screen->Width) / TwipsPerPixel,
+                             static_cast<int>(Screen->Height) / TwipsPerPixel);
+        PlaceWindow(*Screen);
+        Window->showNormal();
+    }
+    Window->update();
+}
+
+static void UpdateStale()
+{
+    std::vector<Rectangle>& Stale = StaleRectangles();
+    if (Stale.empty()) return;
+    const ScreenView Shown = View();
+    QRegion Region;
+    for (const Rectangle& R : Stale) {
+        const QRect Device = DeviceRect(Shown, R);
+        const QRectF Logical(Device.x() / Shown.Ratio, Device.y() / Shown.Ratio,
+                             Device.width() / Shown.Ratio, Device.height() / Shown.Ratio);
+        Region += Logical.toAlignedRect();
+    }
+    Stale.clear();
+    Window->update(Region);
+}
+
+static QRect LogicalPlace(const Element& E)
+{
+    const ScreenView Shown = View();
+    const Point Place = ScreenPlace(E);
+    const auto Map = [&](double Value, int Offset) {
+        return qRound((Value * Shown.Scale + Offset) / Shown.Ratio);
+    };
+    const QPoint TopLeft(Map(Place.X, Shown.OffsetX), Map(Place.Y, Shown.OffsetY));
+    const QPoint End(Map(Place.X + E.Width, Shown.OffsetX), Map(Place.Y + E.Height, Shown.OffsetY));
+    return QRect(TopLeft, End - QPoint(1, 1));
+}
+
+static void AfterEvent();
+
+static void LookLikeTheScreen(QWidget* Control, const Element& E)
+{
+    Control->setFont(ElementFont(E, View().Scale / View().Ratio));
+    Control->setStyleSheet("color: #1e1a10; background: #f8f0d8; border: 1px solid #6a4a10;"
+                           "border-radius: 3px; padding-left: 4px;"
+                           "selection-background-color: #2f6b4e; selection-color: #fff8e0;");
+}
+
+static QLineEdit* MakeTextBox(const Element& E)
+{
+    auto* Box = new QLineEdit(Window);
+    Box->setMaxLength(255);
+    QObject::connect(Box, &QLineEdit::textEdited, Window, [&E](const QString& Text) {
+        SendText(E, Text.toLatin1().toStdString());
+        AfterEvent();
+    });
+    QObject::connect(Box, &QLineEdit::returnPressed, Window, [&E] {
+        SendKeyPress(E, 13);
+        AfterEvent();
+    });
+    return Box;
+}
+
+static void SyncTextBox(const Element& E)
+{
+    QLineEdit*& Box = TextBoxes[E.Id];
+    if (!IsShown(E)) {
+        if (Box && Box->isVisible()) {
+            Box->hide();
+            Window->setFocus();
+        }
+        return;
+    }
+    if (!Box) Box = MakeTextBox(E);
+    if (!Box->isVisible()) {
+        LookLikeTheScreen(Box, E);
+        Box->setGeometry(LogicalPlace(E));
+        Box->show();
+        if (Focused() == &E) Box->setFocus();
+        Box->selectAll();
+    }
+    const QString Text = QString::fromLatin1(E.Caption.c_str());
+    if (Box->text().toLatin1() != Text.toLatin1()) Box->setText(Text);
+}
+
+// A list box that tells the rules before its list drops down.
+struct DropList : QComboBox {
+    const Element& E;
+    explicit DropList(const Element& Owner) : QComboBox(Window), E(Owner) {}
+    void showPopup() override
+    {
+        SendDropDown(E);
+        AfterEvent();
+        QComboBox::showPopup();
+    }
+};
+
+static QComboBox* MakeListBox(const Element& E)
+{
+    auto* Box = new DropList(E);
+    Box->setMaxVisibleItems(16);
+    QObject::connect(Box, &QComboBox::activated, Window, [&E, Box](int Index) {
+        SendChoice(E, Box->itemText(Index).toLatin1().toStdString());
+        AfterEvent();
+    });
+    return Box;
+}
+
+static void SyncListBox(const Element& E)
+{
+    QComboBox*& Box = ListBoxes[E.Id];
+    if (!IsShown(E)) {
+        if (Box) Box->hide();
+        return;
+    }
+    if (!Box) Box = MakeListBox(E);
+    if (!Box->isVisible()) {
+        LookLikeTheScreen(Box, E);
+        Box->setGeometry(LogicalPlace(E));
+        Box->show();
+    }
+    if (ListBoxItems[E.Id] != E.ItemsChanged) {
+        QStringList Items;
+        for (const std::string& Item : E.Items) Items << QString::fromLatin1(Item.c_str());
+        Box->clear();
+        Box->addItems(Items);
+        ListBoxItems[E.Id] = E.ItemsChanged;
+    }
+    const QString Text = QString::fromLatin1(E.Caption.c_str());
+    if (Box->currentText() != Text || Box->currentIndex() < 0)
+        Box->setCurrentIndex(E.Caption.empty() ? -1 : Box->findText(Text));
+}
+
+static void SyncControls()
+{
+    SyncTextBox(txtName);
+    for (int I = cboPlayerList.First; I < cboPlayerList.First + cboPlayerList.Count; ++I)
+        SyncListBox(cboPlayerList(I));
+}
+
+static void SetClockToNextTimer()
+{
+    const Element* Next = NextTimer();
+    if (!Next || Ended) {
+        Clock->stop();
+        return;
+    }
+    Clock->start(static_cast<int>(std::max(0LL, Next->Due - SinceStart.elapsed())));
+}
+
+// After everything that may have changed the model.
+static void AfterEvent()
+{
+    if (Ended) {
+        QApplication::quit();
+        return;
+    }
+    BringUpWindow();
+    UpdateStale();
+    SyncControls();
+    SetClockToNextTimer();
+}
+
+// --- input goes to the model ---
+
+static MouseButton ButtonOf(const QMouseEvent* Event)
+{
+    if (Event->button() == Qt::RightButton) return MouseButton::Right;
+    if (Event->button() == Qt::MiddleButton) return MouseButton::Middle;
+    return MouseButton::Left;
+}
+
+static QPointF OnScreen(const QPointF& Logical)
+{
+    return ScreenPoint(View(), Logical);
+}
+
+void GameWindow::mouseMoveEvent(QMouseEvent* Event)
+{
+    const QPointF At = OnScreen(Event->position());
+    SendMouseMove(static_cast<float>(At.x()), static_cast<float>(At.y()));
+    AfterEvent();
+}
+
+void GameWindow::mousePressEvent(QMouseEvent* Event)
+{
+    const QPointF At = OnScreen(Event->position());
+    SendMouseDown(ButtonOf(Event), static_cast<float>(At.x()), static_cast<float>(At.y()));
+    AfterEvent();
+}
+
+void GameWindow::mouseReleaseEvent(QMouseEvent* Event)
+{
+    const QPointF At = OnScreen(Event->position());
+    SendMouseUp(ButtonOf(Event), static_cast<float>(At.x()), static_cast<float>(At.y()));
+    AfterEvent();
+}
+
+void GameWindow::keyPressEvent(QKeyEvent* Event)
+{
+    const auto Has = [&](Qt::KeyboardModifier Modifier) {
+        return Event->modifiers().testFlag(Modifier);
+    };
+    static const std::map<int, const char*> Arrows = {{Qt::Key_Up, "up"},
+                                                      {Qt::Key_Down, "down"},
+                                                      {Qt::Key_Left, "left"},
+                                                      {Qt::Key_Right, "right"}};
+    const auto Arrow = Arrows.find(Event->key());
+    const std::string Key = Arrow != Arrows.end() ? Arrow->second : Event->text().toStdString();
+    SendKeyDown(Key, Has(Qt::ShiftModifier), Has(Qt::ControlModifier), Has(Qt::AltModifier));
+    AfterEvent();
+}
+
+void GameWindow::closeEvent(QCloseEvent* Event)
+{
+    if (!Ended) ShutdownDisplay();
+    Event->accept();
+    AfterEvent();
+}
+
+void GameWindow::changeEvent(QEvent* Event)
+{
+    if (Event->type() != QEvent::WindowStateChange || !Minimised) return;
+    if (windowState().testFlag(Qt::WindowMinimized)) return;
+    Minimised = false;
+    ScreenOnShow = nullptr; // the window is to be brought up as it now should be
+    MainScreen_Resize();
+    AfterEvent();
+}
+
+bool GameWindow::event(QEvent* Event)
+{
+    if (Event->type() == QEvent::ToolTip) {
+        const auto* Help = static_cast<QHelpEvent*>(Event);
+        const QPointF At = OnScreen(Help->pos());
+        const Element* Hit = HitTest(static_cast<float>(At.x()), static_cast<float>(At.y()));
+        if (Hit && !Hit->ToolTip.empty())
+            QToolTip::showText(Help->globalPos(), QString::fromStdString(Hit->ToolTip), this);
+        else
+            QToolTip::hideText();
+        return true;
+    }
+    return QWidget::event(Event);
+}
+
+void GameWindow::paintEvent(QPaintEvent* Event)
+{
+    const ScreenView Shown = View();
+    QPainter Painter(this);
+    // From here on a unit is one pixel of the device: pictures and edges stay sharp.
+    Painter.scale(1 / Shown.Ratio, 1 / Shown.Ratio);
+    for (const QRect& Logical : Event->region()) {
+        const QRect Clip = QRectF(Logical.x() * Shown.Ratio, Logical.y() * Shown.Ratio,
+                                  Logical.width() * Shown.Ratio, Logical.height() * Shown.Ratio)
+                               .toAlignedRect();
+        Painter.setClipRect(Clip);
+        PaintScreen(Painter, Shown, Clip);
+    }
+}
+
+// --- the platform ---
+
+static DateTime Now()
+{
+    const QDateTime Time = QDateTime::currentDateTime();
+    return {Time.date().year(), Time.date().month(),  Time.date().day(),
+            Time.time().hour(), Time.time().minute(), Time.time().second()};
+}
+
+static void Yield()
+{
+    if (!Window || Ended) return;
+    BringUpWindow();
+    UpdateStale();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+static void ReportFatal(const std::string& Text)
+{
+    std::cerr << "pagodas: " << Text << std::endl;
+    QMessageBox::critical(nullptr, "Pagodas", QString::fromStdString(Text));
+}
+
+static void OpenAddress(const std::string& Address)
+{
+    // A page that ships with the game is named by its path below the game directory.
+    QDesktopServices::openUrl(Address[0] == '\\'
+                                  ? QUrl::fromLocalFile(QString::fromStdString(HostPath(Address)))
+                                  : QUrl(QString::fromStdString(Address)));
+}
+
+void FillPlatform()
+{
+    SinceStart.start();
+    Platform.PlaySoundFile = PlayEffect;
+    Platform.MusicStop = MusicStop;
+    Platform.MusicSetFile = MusicSetFile;
+    Platform.MusicPlay = MusicPlay;
+    Platform.ModeSet = [](int Width, int) { FullScreen = Width != 0; };
+    Platform.WindowPlace = [](int, int) {
+        if (Window && ScreenOnShow == &frmMain && !ShownFullScreen) PlaceWindow(frmMain);
+    };
+    Platform.Minimize = [] {
+        Minimised = true;
+        Window->showMinimized();
+    };
+    Platform.OpenAddress = OpenAddress;
+    Platform.Now = Now;
+    Platform.Milliseconds = [] { return static_cast<long long>(SinceStart.elapsed()); };
+    Platform.Yield = Yield;
+    Platform.ReportFatal = ReportFatal;
+    Platform.ReportTrouble = [](const std::string& Text) {
+        std::cerr << "pagodas: " << Text << std::endl;
+        ShowTextNote(Text);
+    };
+    Platform.End = [] { Ended = true; };
+}
+
+void OpenGameWindow()
+{
+    const QScreen* Desktop = QApplication::primaryScreen();
+    DesktopWidth = Desktop->geometry().width();
+    DesktopHeight = Desktop->geometry().height();
+    DesktopDots = qRound(Desktop->logicalDotsPerInchX());
+
+    Window = new GameWindow;
+    Window->setWindowTitle("Pagodas");
+    Window->setWindowIcon(QIcon(QString::fromStdString(HostPath("\\ICON\\64.png"))));
+    Window->setMouseTracking(true);
+    Window->setAttribute(Qt::WA_OpaquePaintEvent);
+    Window->setFocusPolicy(Qt::StrongFocus);
+    Clock = new QTimer(Window);
+    Clock->setSingleShot(true);
+    Clock->setTimerType(Qt::PreciseTimer);
+    QObject::connect(Clock, &QTimer::timeout, Window, [] {
+        RunDueTimers(SinceStart.elapsed());
+        AfterEvent();
+    });
+    StartSound(Window);
+    SplashLoad();
+    AfterEvent();
+}
