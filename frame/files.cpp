@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -91,9 +92,9 @@ bool WriteWholeFile(std::string_view Path, std::span<const std::uint8_t> Content
     return true;
 }
 
-int OpenForReading(const std::string& Path)
+static int OpenFileFor(const std::string& Path, int Access)
 {
-    const int Handle = open(Path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int Handle = open(Path.c_str(), Access | O_NONBLOCK | O_CLOEXEC);
     if (Handle < 0) return 0;
     struct stat Status;
     if (fstat(Handle, &Status) != 0 || !S_ISREG(Status.st_mode)) {
@@ -101,6 +102,16 @@ int OpenForReading(const std::string& Path)
         return 0;
     }
     return Handle;
+}
+
+int OpenForReading(const std::string& Path)
+{
+    return OpenFileFor(Path, O_RDONLY);
+}
+
+int OpenForWriting(const std::string& Path)
+{
+    return OpenFileFor(Path, O_RDWR);
 }
 
 long long FileLength(int Handle)
@@ -122,7 +133,36 @@ int ReadAt(int Handle, long long Offset, void* Into, int Count)
     return Read;
 }
 
+const char* MapFile(int Handle, long long Length)
+{
+    void* Map = mmap(nullptr, static_cast<std::size_t>(Length), PROT_READ, MAP_SHARED, Handle, 0);
+    return Map == MAP_FAILED ? nullptr : static_cast<const char*>(Map);
+}
+
+void UnmapFile(const char* Map, long long Length)
+{
+    munmap(const_cast<char*>(Map), static_cast<std::size_t>(Length));
+}
+
+bool WriteAt(int Handle, long long Offset, const void* From, int Count)
+{
+    int Written = 0;
+    while (Written < Count) {
+        const ssize_t Put = pwrite(Handle, static_cast<const char*>(From) + Written,
+                                   static_cast<std::size_t>(Count - Written), Offset + Written);
+        if (Put < 0 && errno == EINTR) continue;
+        if (Put <= 0) return false;
+        Written += static_cast<int>(Put);
+    }
+    return true;
+}
+
 void CloseFile(int Handle)
 {
     close(Handle);
+}
+
+void RemoveFile(const std::string& Path)
+{
+    unlink(Path.c_str());
 }

@@ -32,4 +32,12 @@ int OpenForReading(const std::string& Path); // a path of the host, not of the g
 long long FileLength(int Handle);
 // Reads at the byte offset; returns how many bytes were there. Allocates nothing.
 int ReadAt(int Handle, long long Offset, void* Into, int Count);
+// The file's bytes without a call of the system for each read; nullptr when it cannot be mapped.
+// Who reads behind the end of a file that was cut meanwhile is killed: look at FileLength before.
+const char* MapFile(int Handle, long long Length);
+void UnmapFile(const char* Map, long long Length);
+// An existing file, to be read and changed in place.
+int OpenForWriting(const std::string& Path);
+bool WriteAt(int Handle, long long Offset, const void* From, int Count);
 void CloseFile(int Handle);
+void RemoveFile(const std::string& Path); // a path of the host
