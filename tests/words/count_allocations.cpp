@@ -1,0 +1,23 @@
+// Counts what a program takes from the heap. In a file of its own, where no caller is compiled
+// together with it.
+#include <cstdlib>
+#include <new>
+
+std::size_t Allocations = 0;
+
+void* operator new(std::size_t Size)
+{
+    ++Allocations;
+    if (void* Memory = std::malloc(Size)) return Memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* Memory) noexcept
+{
+    std::free(Memory);
+}
+
+void operator delete(void* Memory, std::size_t) noexcept
+{
+    std::free(Memory);
+}
