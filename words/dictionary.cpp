@@ -127,7 +127,7 @@ static void CloseDictionary()
     Handle = 0;
 }
 
-static std::int16_t OpenDictionary(const std::string& File)
+static std::int16_t OpenStep(const std::string& File)
 {
     for (std::string* Text :
          {&DictionaryState.Target, &DictionaryState.Current, &DictionaryState.Previous})
@@ -277,7 +277,7 @@ void RunDictionary(const std::string& Word, std::int16_t& Code)
 {
     const std::int16_t Command = Code;
     if (Command == OpenFile || DictionaryState.IsOpen == 0) {
-        Code = OpenDictionary(Command == OpenFile ? Word : DefaultFile);
+        Code = OpenStep(Command == OpenFile ? Word : DefaultFile);
         if (Command == OpenFile || Code == NoDictionary) return;
     }
     NoticeCut();

@@ -1,6 +1,8 @@
 #include "words/word_play.h"
 
 #include "board/board.h"
+#include "frame/files.h"
+#include "words/words.h"
 
 constexpr Colour WordAtRest = {192, 192, 192};
 
@@ -61,4 +63,8 @@ void imgUndoWisdom_Action(int)
     SetCaption(lblWord, lblWord.Caption.substr(0, lblWord.Caption.size() - 1));
 }
 
-void OpenDictionary() {} // comes with the dictionary
+void OpenDictionary()
+{
+    std::int16_t Code = OpenFile;
+    DictionaryCommand(HostPath("\\DATA\\AS0001"), Code);
+}
