@@ -165,6 +165,7 @@ void InitElements()
         for (int Place = 0; Place < Row.Count; ++Place) BringToFront(Elements[Row.Id + Place]);
         if (Row.Style.Pair) BringToFront(Elements[Row.Id]); // the text over its shadow
     }
+    SetDesignCaptions();
     StaleRectangles().clear();
 }
 

@@ -111,6 +111,7 @@ struct ElementArray {
 
 // Puts every element into its design state. Start-up calls it once; tests for each fresh game.
 void InitElements();
+void SetDesignCaptions(); // captions.cpp: what labels say from the start; InitElements calls it
 
 std::string ElementText(const Element& E);                    // "imgTile(5)", "picNote"
 const Element* FindElement(std::string_view Name, int Index); // nullptr; Index -1 for none

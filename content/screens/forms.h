@@ -1,0 +1,39 @@
+// forms.h: the pictures that belong to the screens' own elements, and the files they go into.
+#pragma once
+
+#include "kit.h"
+#include "places.h"
+
+#include <functional>
+
+// Pictures are gathered in sheets by the time when they are needed.
+enum Sheet { MainSheet = 1, BoxSheet = 2, SplashSheet = 3, WonSheet = 4 };
+
+struct FormPicture {
+    QString Name; // of the element
+    Sheet On;
+    QImage Image;
+};
+using FormPictures = std::vector<FormPicture>;
+using Drawing = std::function<void(QPainter& P, const QRectF& Box)>; // Box starts at 0, 0
+
+// Makes the picture of an element in the size that the table gives it.
+void AddForm(FormPictures& To, const QString& Element, Sheet On, const Drawing& Draw);
+// The same for every cell of a picture store; Draw gets the cell's number too.
+void AddStore(FormPictures& To, const QString& Store, Sheet On,
+              const std::function<void(QPainter& P, const QRectF& Cell, int Number)>& Draw);
+
+void AddBar(FormPictures& To);     // forms_bar.cpp: the control bar, its panels and the board's top
+void AddNotes(FormPictures& To);   // forms_notes.cpp: notes and digits
+void AddBoxes(FormPictures& To);   // forms_boxes.cpp: menu and boxes
+void AddButtons(FormPictures& To); // forms_buttons.cpp: every button of every screen
+void AddScreens(FormPictures& To); // forms_screens.cpp: other pictures of the full-size screens
+void AddSplash(FormPictures& To);  // forms_splash.cpp: logo and title
+
+// sheets.cpp: packs the pictures and writes DATA/FM0000 and the sheets below Folder.
+void WriteSheets(const FormPictures& Pictures, const QString& Folder);
+
+// backgrounds.cpp, help_pages.cpp, app_icon.cpp
+void WriteBackgrounds(const QString& Folder); // DATA/EN0001 .. EN0005
+void WriteHelpPages(const QString& Folder);   // DATA/HP0001 .. HP0005
+void WriteIcons(const QString& Folder);       // ICON/16.png .. ICON/512.png

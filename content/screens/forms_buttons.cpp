@@ -1,0 +1,155 @@
+// forms_buttons.cpp: every button of every screen, as a table
+
+#include "forms.h"
+
+struct ButtonRow {
+    const char* Element;
+    Sheet On;
+    Sign Drawn;
+    const char* Caption;
+    ButtonState State;
+};
+
+static const ButtonState Rest = ButtonState::Rest, Lit = ButtonState::Lit,
+                         Off = ButtonState::Disabled;
+
+static const ButtonRow Buttons[] = {
+    // the control bar
+    {"imgButMenu", MainSheet, Sign::Menu, "Menu", Rest},
+    {"imgButMenuDIS", MainSheet, Sign::Menu, "Menu", Off},
+    {"imgButLayout", MainSheet, Sign::Layout, "Layout", Rest},
+    {"imgButLayoutDIS", MainSheet, Sign::Layout, "Layout", Off},
+    {"imgbutStart", MainSheet, Sign::Start, "START", Lit},
+    {"imgbutStartDIS", MainSheet, Sign::Start, "START", Off},
+    {"imgbutEnd", MainSheet, Sign::End, "END", Rest},
+    {"imgEndDIS", MainSheet, Sign::End, "END", Off},
+    // powers
+    {"imgMixFinesse", MainSheet, Sign::Mix, "MIX", Rest},
+    {"imgMixFinesseDIS", MainSheet, Sign::Mix, "MIX", Off},
+    {"imgUndo", MainSheet, Sign::Undo, "UNDO", Rest},
+    {"imgUndoDIS", MainSheet, Sign::Undo, "UNDO", Off},
+    {"imgPair", MainSheet, Sign::Pair, "PAIR", Rest},
+    {"imgPairDIS", MainSheet, Sign::Pair, "PAIR", Off},
+    {"imgPeek", MainSheet, Sign::Peek, "PEEK", Rest},
+    {"imgPeekDIS", MainSheet, Sign::Peek, "PEEK", Off},
+    {"imgMixAgility", MainSheet, Sign::Mix, "MIX", Rest},
+    {"imgMixAgilityDIS", MainSheet, Sign::Mix, "MIX", Off},
+    {"imgPause", MainSheet, Sign::Pause, "PAUSE", Rest},
+    {"imgPauseDIS", MainSheet, Sign::Pause, "PAUSE", Off},
+    {"imgMixWisdom", MainSheet, Sign::Mix, "MIX", Rest},
+    {"imgMixWisdomDIS", MainSheet, Sign::Mix, "MIX", Off},
+    {"imgPush", MainSheet, Sign::Push, "PUSH", Rest},
+    {"imgPushDIS", MainSheet, Sign::Push, "PUSH", Off},
+    {"imgUndoWisdom", MainSheet, Sign::Erase, "ERASE", Rest},
+    {"imgUndoWisdomDIS", MainSheet, Sign::Erase, "ERASE", Off},
+    {"imgAcceptWord", MainSheet, Sign::Accept, "ACCEPT", Rest},
+    {"imgAcceptWordDIS", MainSheet, Sign::Accept, "ACCEPT", Off},
+    // the menu
+    {"imgMenuOptions", BoxSheet, Sign::Options, "Options", Rest},
+    {"imgMenuScores", BoxSheet, Sign::Scores, "High scores", Rest},
+    {"imgMenuHistory", BoxSheet, Sign::History, "History", Rest},
+    {"imgMenuProfile", BoxSheet, Sign::Profile, "Player profile", Rest},
+    {"imgMenuHelp", BoxSheet, Sign::Help, "Help", Rest},
+    {"imgExpansionPacks", BoxSheet, Sign::Packs, "Content packs", Rest},
+    {"imgExit", BoxSheet, Sign::Exit, "Leave Pagodas", Rest},
+    {"imgCancel", BoxSheet, Sign::Back, "Back to the board", Lit},
+    // boxes
+    {"imgExitYES", BoxSheet, Sign::Yes, "Yes", Rest},
+    {"imgExitNO", BoxSheet, Sign::No, "No", Rest},
+    {"imgEndYES", BoxSheet, Sign::Yes, "Yes", Rest},
+    {"imgEndNO", BoxSheet, Sign::No, "No", Rest},
+    {"imgNoMovesOK", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgNoMovesMixOK", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgCongratsOK", WonSheet, Sign::Yes, "OK", Rest},
+    {"imgNewHighOK", WonSheet, Sign::Yes, "OK", Rest},
+    {"imgNewHighOKDIS", WonSheet, Sign::Yes, "OK", Off},
+    // the feet of the full-size screens
+    {"imgButOptionsAccept", BoxSheet, Sign::Yes, "Accept", Rest},
+    {"imgButOptionsCancel", BoxSheet, Sign::No, "Cancel", Rest},
+    {"imgRandomOk", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgButPlayThis", BoxSheet, Sign::Play, "Play this", Rest},
+    {"imgButPlayThisDIS", BoxSheet, Sign::Play, "Play this", Off},
+    {"imgButHistoryScores", BoxSheet, Sign::History, "History", Rest},
+    {"imgButProfileScores", BoxSheet, Sign::Profile, "Profile", Rest},
+    {"imgOKScores", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgHisClearThis", BoxSheet, Sign::Clear, "Clear list", Rest},
+    {"imgHisScores", BoxSheet, Sign::Scores, "Scores", Rest},
+    {"imgHisProfile", BoxSheet, Sign::Profile, "Profile", Rest},
+    {"imgHisCancel", BoxSheet, Sign::No, "Cancel", Rest},
+    {"imgHisOK", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgProScores", BoxSheet, Sign::Scores, "Scores", Rest},
+    {"imgProHistory", BoxSheet, Sign::History, "History", Rest},
+    {"imgProCancel", BoxSheet, Sign::No, "Cancel", Rest},
+    {"imgProOK", BoxSheet, Sign::Yes, "OK", Rest},
+    {"imgHelpBut(1)", BoxSheet, Sign::None, "The games", Rest},
+    {"imgHelpBut(2)", BoxSheet, Sign::None, "Free tiles", Rest},
+    {"imgHelpBut(3)", BoxSheet, Sign::None, "Powers", Rest},
+    {"imgHelpBut(4)", BoxSheet, Sign::None, "Scores", Rest},
+    {"imgHelpBut(5)", BoxSheet, Sign::None, "Boards, packs", Rest},
+    {"imgBackToGame", BoxSheet, Sign::Back, "Back", Lit},
+    // the chooser
+    {"imgChooseLayout(0)", BoxSheet, Sign::Layout, "Choose a layout", Rest},
+    {"imgChooseLayout(1)", BoxSheet, Sign::Layout, "Choose a layout", Lit},
+    {"imgRandomLayout(0)", BoxSheet, Sign::Dice, "Random layout", Rest},
+    {"imgRandomLayout(1)", BoxSheet, Sign::Dice, "Random layout", Lit},
+    {"imgLaySetUP", BoxSheet, Sign::Up, "", Rest},
+    {"imgLaySetDN", BoxSheet, Sign::Down, "", Rest},
+    {"imgSetUP(0)", BoxSheet, Sign::Up, "", Rest},
+    {"imgSetUP(1)", BoxSheet, Sign::Up, "", Lit},
+    {"imgSetDN(0)", BoxSheet, Sign::Down, "", Rest},
+    {"imgSetDN(1)", BoxSheet, Sign::Down, "", Lit},
+    {"ArrowDN(0)", BoxSheet, Sign::Down, "", Rest},
+    {"ArrowDN(1)", BoxSheet, Sign::Down, "", Lit},
+};
+
+// A group of layouts: its numbers, and how many tiles they have.
+struct GroupRow {
+    const char* Numbers;
+    const char* Tiles;
+};
+static const GroupRow Groups[] = {
+    {"1-12", "72 tiles"},     {"13-24", "144 tiles"}, {"25-36", "144 tiles"},
+    {"37-48", "144 tiles"},   {"49-60", "144 tiles"}, {"61-72", "144 tiles"},
+    {"73-84", "216 tiles"},   {"85-96", "216 tiles"}, {"97-108", "216 tiles"},
+    {"109-120", "288 tiles"},
+};
+
+static void AddGroups(FormPictures& To, const QString& Store, ButtonState State)
+{
+    AddStore(To, Store, BoxSheet, [&](QPainter& P, const QRectF& Cell, int Number) {
+        DrawButton(P, Cell, Sign::None, "", State);
+        const TextStyle Style{.Size = 13,
+                              .Kind = Weight::Bold,
+                              .Colour = QColor(State == ButtonState::Lit ? "#3a2404" : "#173124"),
+                              .Shadow = false};
+        TextStyle Small = Style;
+        Small.Size = 12;
+        Small.Kind = Weight::Regular;
+        const QRectF Face = Cell.adjusted(3.5, 0, 0, -3.5);
+        DrawText(P, QRectF(Face.x(), Face.y() + 1.5, Face.width(), 15), Groups[Number].Numbers,
+                 Style);
+        DrawText(P, QRectF(Face.x(), Face.y() + 15.5, Face.width(), 15), Groups[Number].Tiles,
+                 Small);
+    });
+}
+
+void AddButtons(FormPictures& To)
+{
+    for (const ButtonRow& Row : Buttons)
+        AddForm(To, Row.Element, Row.On, [&](QPainter& P, const QRectF& Box) {
+            DrawButton(P, Box, Row.Drawn, Row.Caption, Row.State);
+        });
+    AddGroups(To, "clpButGroupOff", ButtonState::Rest);
+    AddGroups(To, "clpButGroupOn", ButtonState::Lit);
+    for (const bool On : {false, true}) {
+        const QString Index = On ? "(1)" : "(0)";
+        AddForm(To, "imgGreenLight" + Index, MainSheet,
+                [&](QPainter& P, const QRectF& Box) { DrawLamp(P, Box, On); });
+        AddForm(To, "imgOption" + Index, BoxSheet,
+                [&](QPainter& P, const QRectF& Box) { DrawOptionBall(P, Box, On); });
+        AddForm(To, "imgOptGame" + Index, BoxSheet,
+                [&](QPainter& P, const QRectF& Box) { DrawOptionBall(P, Box, On); });
+        AddForm(To, "imgButScores" + Index, BoxSheet,
+                [&](QPainter& P, const QRectF& Box) { DrawOptionBall(P, Box, On); });
+    }
+}
