@@ -91,10 +91,4 @@ void AddScreens(FormPictures& To)
     AddForm(To, "imgThumbFrame", BoxSheet, DrawThumbFrame);
     AddForm(To, "imgSet", BoxSheet, DrawSet);
     AddForm(To, "imgRandomCover", BoxSheet, DrawRandomCover);
-    // Only seen for an instant on the way out: a small picture that is drawn larger will do.
-    QImage Ground(64, 48, QImage::Format_ARGB32_Premultiplied);
-    QPainter P(&Ground);
-    P.fillRect(Ground.rect(), Linear(64, 0, 0, 48, {PanelLight, PanelDark}));
-    P.end();
-    To.push_back({"picContainer", BoxSheet, Ground});
 }

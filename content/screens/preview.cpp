@@ -91,7 +91,7 @@ static void DrawElement(QPainter& P, const Element& E, QPointF Parent)
         P.drawImage(Box, Image.scaled((Box.size() * Ratio).toSize(), Qt::IgnoreAspectRatio,
                                       Qt::SmoothTransformation));
     }
-    if (ElementText(E) == "picBlack") P.fillRect(Box, QColor(0, 0, 0, 120));
+    if (E.Shade) P.fillRect(Box, QColor(0, 0, 0, E.Shade));
     if (ElementText(E) == "picGraph") P.fillRect(Box, QColor(77, 77, 77));
     if (E.Kind == ElementKind::ListBox || E.Kind == ElementKind::TextBox)
         P.fillRect(Box, QColor("#fffdf3"));
