@@ -74,7 +74,7 @@ int VelocityOf(const Score& From, const Arrangement& Music, const ArrangedNote& 
                       : Note.Loudness == "mp" ? 70
                       : Note.Loudness == "mf" ? 80
                                               : 91;
-    Velocity += Note.As == Role::Melody ? 8 : Note.As == Role::Counter ? 2 : -6;
+    Velocity += Note.As == Role::Melody ? 10 : Note.As == Role::Counter ? 1 : -10;
     const int InBar = Note.Start % From.BarTicks;
     if (InBar == 0)
         Velocity += 5;

@@ -182,7 +182,10 @@ Line ReadLine(const Reader& In, int LineNumber, const std::string& Name, const s
                     Joined = true;
                     break;
                 }
-            if (Tied && !Joined) Fail(In, LineNumber, "a tie joins two tones that differ");
+            if (Tied && !Joined)
+                Fail(In, LineNumber,
+                     "bar " + std::to_string(Bar + 1) + " of " + Name +
+                         ": a tie joins two tones that differ");
             if (!Joined) Result.Notes.push_back({Key, Now, Ticks});
         }
         Now += Ticks;
