@@ -119,7 +119,6 @@ void ShutdownDisplay()
 
 void CloseGame()
 {
-    Platform.MusicStop();
     if (GameState.GameRunning == 1)
         RecordGame(OutcomeNoPlace, "-", "-", GameState.LayoutNumber, GameState.Score);
     if (picOptions.Visible) {

@@ -9,7 +9,7 @@ Element Elements[ElementCount];
 struct Look {
     TextFont Font;
     Colour Ink;
-    bool Art = false, OnTop = false, Pair = false;
+    bool Art = false, OnTop = false, Pair = false, Ghost = false;
     int Interval = 0, Columns = 1, Rows = 1, Shade = 0;
 };
 
@@ -40,6 +40,8 @@ constexpr Look TopText(FontFace Face, int Size, bool Weight, Align Place, int R,
     Result.OnTop = true;
     return Result;
 }
+constexpr Look Ghost{.Ghost = true};
+constexpr Look GhostArt{.Art = true, .Ghost = true};
 constexpr Look Dim(int Shade)
 {
     return {.Shade = Shade};
@@ -143,6 +145,7 @@ static void MakeElement(const ElementRow& Row, int Place)
     E.Height = Row.Height;
     E.Visible = Row.Shown;
     E.StaysOnTop = Row.Style.OnTop;
+    E.Ghost = Row.Style.Ghost;
     E.Font = Row.Style.Font;
     E.Ink = Row.Style.Ink;
     E.Interval = Row.Style.Interval;

@@ -74,6 +74,7 @@ struct Element {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = false;
     bool StaysOnTop = false; // window controls: nothing is brought in front of them
+    bool Ghost = false;      // lets the pointer through to what lies under it
     Picture Shows;
     std::string Caption; // label; the text of a text box or list box
     Colour Ink;

@@ -25,6 +25,7 @@ static void MinimizeOnClick(int)
 }
 static void CloseOnClick(int)
 {
+    Platform.MusicStop();
     CloseGame();
 }
 

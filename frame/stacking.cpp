@@ -83,7 +83,8 @@ static const Element* HitIn(const Element& Panel, float X, float Y)
 {
     for (ElementId Id = Panel.Foremost; Id != NoElement; Id = At(Id).Behind) {
         const Element& E = At(Id);
-        if (!E.Visible || E.Kind == ElementKind::Timer || E.Kind == ElementKind::Line) continue;
+        if (!E.Visible || E.Ghost || E.Kind == ElementKind::Timer) continue;
+        if (E.Kind == ElementKind::Line) continue;
         const float InX = X - E.Left, InY = Y - E.Top;
         if (InX < 0 || InY < 0 || InX >= E.Width || InY >= E.Height) continue;
         if (E.Kind == ElementKind::Panel)

@@ -1,3 +1,12 @@
 #include "screens/screens.h"
 
-void SetScreenHandlers() {}
+void SetScreenHandlers()
+{
+    SetMenuHandlers();
+    SetOptionsHandlers();
+    SetChooserHandlers();
+    SetScoresHandlers();
+    SetHistoryHandlers();
+    SetProfileHandlers();
+    SetHelpHandlers();
+}
