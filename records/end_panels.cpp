@@ -1,13 +1,17 @@
 #include "board/board.h"
 #include "media/media.h"
+#include "records/fields.h"
 #include "records/records.h"
-
-#include <algorithm>
-#include <cctype>
 
 constexpr int EnterKey = 13;
 constexpr int BuiltInPictures = 360;
 constexpr int PictureWidth = 720, PictureHeight = 420;
+
+// The cover goes by the untrimmed text: blanks alone uncover the button, which then does nothing.
+static void txtName_Change(int)
+{
+    SetVisible(imgNewHighOKDIS, txtName.Caption.empty());
+}
 
 void ShowCongratulations()
 {
@@ -22,6 +26,7 @@ void ShowCongratulations()
 void ShowNewHigh()
 {
     Hide(picCongrats);
+    txtName_Change(0); // the name that is offered may be the one that stands there
     Show(picNewHigh);
     const int Number =
         GameState.LayoutGroup <= 2 ? LayoutIndex() : RandomBetween(1, BuiltInPictures);
@@ -33,19 +38,7 @@ void ShowNewHigh()
 
 std::string TypedName()
 {
-    const std::string& Text = txtName.Caption;
-    const std::size_t First = Text.find_first_not_of(' ');
-    if (First == std::string::npos) return "";
-    std::string Name = Text.substr(First, Text.find_last_not_of(' ') - First + 1);
-    std::transform(Name.begin(), Name.end(), Name.begin(),
-                   [](unsigned char C) { return static_cast<char>(std::tolower(C)); });
-    return Name;
-}
-
-// The cover goes by the untrimmed text: blanks alone uncover the button, which then does nothing.
-static void txtName_Change(int)
-{
-    SetVisible(imgNewHighOKDIS, txtName.Caption.empty());
+    return Trimmed(LowerCase(txtName.Caption));
 }
 
 static void txtName_KeyPress(int, int Key)
@@ -59,4 +52,5 @@ void SetRecordHandlers()
 {
     SetHandlers(txtName, {.Change = txtName_Change, .KeyPress = txtName_KeyPress});
     SetHandlers(imgNewHighOK, {.Action = imgNewHighOK_Action});
+    SetPlayerHandlers();
 }

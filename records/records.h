@@ -37,7 +37,26 @@ void LoadWonLost();
 void SaveWonLost();
 
 // end_panels.cpp: the panels of a finished game and the name that a high score asks for
-void ShowCongratulations();   // no place in the table
-void ShowNewHigh();           // a place: asks for the name
-std::string TypedName();      // of txtName, trimmed, in lower case
-void SetRecordHandlers();
+void ShowCongratulations(); // no place in the table
+void ShowNewHigh();         // a place: asks for the name
+std::string TypedName();    // of txtName, trimmed, in lower case
+void SetRecordHandlers();   // of the name box and of the players' boxes
+
+// players.cpp: the players of the profile. The tables are those of ProfileGameType in the current
+// layout list; Box is that of cboPlayerList: 1..10 stand on the graph, 11 and 12 are compared.
+void BuildPlayerList();   // fills the boxes and selects the stored players again
+void ShowPlayers();       // graph, Master Scores and statistics of the players selected
+void SaveChosenPlayers(); // on leaving the profile or changing its game type
+void CopyChosenPlayers(); // as the profile opens, for the way back
+void PutChosenPlayersBack();
+// Sets MasterScore and draws the player's entries on the graph in PlayerColour(Colour).
+void MasterScoreFor(const std::string& Name, int Colour);
+void SortPlayers();                                       // the leaders' scores turn yellow
+void ComputeStatistics(const std::string& Name, int Box); // the column of box 11 or 12
+// The layout on which the player's lowest score stands, among those of the size class; also into
+// the column, its number in the Tag of the row. "" for none.
+std::string LowScoreLayout(const std::string& Name, int Box);
+void ShowSizeClass(); // imgOptLowScore
+void SetPlayerHandlers();
+// The graph: the colour of each entry by layout and place, 0 for the background.
+extern Table<I16, Span<1, 120>, Span<1, 10>> GraphColour;

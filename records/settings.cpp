@@ -1,5 +1,6 @@
 // \Settings.dat: a flat stream of fields without header or version. The place of a field is its
 // only name.
+#include "frame/elements.h"
 #include "records/fields.h"
 #include "records/records.h"
 
@@ -127,6 +128,8 @@ void RepairSettings()
 
 void SaveSettings()
 {
+    GameState.WindowLeft = static_cast<int>(frmMain.Left);
+    GameState.WindowTop = static_cast<int>(frmMain.Top);
     RecordFile File = NewRecordFile(SettingsSize);
     WalkSettings(File);
     SaveRecordFile(SettingsFile, File, "settings", true);

@@ -2,6 +2,7 @@
 // of the files put together field after field, apart from the program's own tables.
 #pragma once
 
+#include "frame/elements.h"
 #include "frame/files.h"
 #include "records/records.h"
 
@@ -30,6 +31,7 @@ struct RecordsTest : testing::Test {
         if (mkdtemp(Name.data()) == nullptr) FatalError("cannot make " + Name);
         GameDirectory = Name;
         FreshState();
+        InitElements();
         BuildTables();
         Troubles.clear();
         Today = {2026, 1, 2, 3, 4, 5};
@@ -92,6 +94,16 @@ inline void PutFile(const std::string& File, const std::string& Content)
 {
     std::filesystem::create_directories(std::filesystem::path(Place(File)).parent_path());
     std::ofstream(Place(File), std::ios::binary) << Content;
+}
+// A picture as far as its size is looked at.
+inline void PutPicture(const std::string& File, int Width, int Height)
+{
+    std::string Png = "\x89PNG\r\n\x1a\n";
+    Png += std::string("\0\0\0\x0dIHDR", 8);
+    for (int Size : {Width, Height})
+        for (int Shift = 24; Shift >= 0; Shift -= 8) Png += static_cast<char>(Size >> Shift);
+    Png += std::string("\x08\x02\0\0\0crc.", 9) + std::string("\0\0\0\0IENDcrc.", 12);
+    PutFile(File, Png);
 }
 // Says where two files differ, or "".
 inline std::string FirstDifference(const std::string& Got, const std::string& Wanted)

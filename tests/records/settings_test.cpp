@@ -49,6 +49,12 @@ struct Settings : RecordsTest {
         PutFile("Settings.dat", File);
         LoadSettings();
     }
+    static void SaveWhereTheWindowWas()
+    {
+        SetPlace(frmMain, static_cast<float>(GameState.WindowLeft),
+                 static_cast<float>(GameState.WindowTop));
+        SaveSettings();
+    }
     // A file of zeros with one 16-bit number in it.
     static void LoadNumber(int Offset, int Value)
     {
@@ -102,7 +108,7 @@ TEST_F(Settings, TheWrittenFileIsTheReadOneToTheLastByte)
     ASSERT_EQ(File.size(), 508U);
     LoadFrom(File);
     std::filesystem::remove(Place("Settings.dat"));
-    SaveSettings();
+    SaveWhereTheWindowWas();
     EXPECT_EQ(FirstDifference(FileContent("Settings.dat"), File), "");
 }
 
@@ -125,9 +131,20 @@ TEST_F(Settings, EveryLegalValueOfEveryNumberComesBack)
     for (const auto& [Value, Last] : Fields)
         for (Value = 0; Value < Last; ++Value) {
             LoadFrom(Model.File());
-            SaveSettings();
+            SaveWhereTheWindowWas();
             ASSERT_EQ(FirstDifference(FileContent("Settings.dat"), Model.File()), "");
         }
+}
+
+TEST_F(Settings, ASaveTakesTheWindowsPlaceInWholeTwips)
+{
+    GameState.WindowLeft = 12; // as read; no rule uses it
+    SetPlace(frmMain, -150.75F, 2415.5F);
+    SaveSettings();
+    EXPECT_EQ(FileContent("Settings.dat").substr(2, 8),
+              FileBytes().Number(-150, 4).Number(2415, 4).Bytes);
+    EXPECT_EQ(GameState.WindowLeft, -150);
+    EXPECT_EQ(GameState.WindowTop, 2415);
 }
 
 TEST_F(Settings, AFirstRunHasItsDefaults)
@@ -246,7 +263,7 @@ TEST_F(Settings, ALongerFileKeepsItsTail)
     PutFile("Settings.dat", SettingsModel().File() + Tail);
     LoadSettings();
     GameState.MusicOn = 0;
-    SaveSettings();
+    SaveWhereTheWindowWas();
     SettingsModel Model;
     Model.MusicOn = 0;
     Model.LayoutGroup = Model.TileGroupShown = 0;
@@ -285,7 +302,7 @@ TEST_F(Settings, CutAtEveryLengthTheRestIsZero)
         FreshState();
         InstallPacks();
         LoadFrom(File.substr(0, Length));
-        SaveSettings();
+        SaveWhereTheWindowWas();
         std::string Padded = File.substr(0, Length) + std::string(508 - Length, '\0');
         for (std::size_t I = std::max<std::size_t>(Length, 76); I < 508; ++I) Padded[I] = ' ';
         // What is left of a cut name moves to the right end of its field.
