@@ -4,7 +4,9 @@
 #include "words/words.h"
 
 #include <benchmark/benchmark.h>
+#ifdef PAGODAS_HAS_SQLITE
 #include <sqlite3.h>
+#endif
 
 #include <algorithm>
 #include <iostream>
@@ -65,6 +67,7 @@ static void ReferenceHashSet(benchmark::State& State)
 }
 BENCHMARK(ReferenceHashSet);
 
+#ifdef PAGODAS_HAS_SQLITE
 static void ReferenceSqlite(benchmark::State& State)
 {
     const auto& Words = Queries();
@@ -96,3 +99,4 @@ static void ReferenceSqlite(benchmark::State& State)
     sqlite3_close(Base);
 }
 BENCHMARK(ReferenceSqlite);
+#endif
