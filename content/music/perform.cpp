@@ -15,12 +15,14 @@ constexpr double LeadIn = 0.05; // seconds before the first note
 constexpr double RingOut = 6.0; // seconds after the last one, faded
 constexpr int GridTicks = 60;   // the tempo is held for so long
 
+// At the same time notes end first, then controls turn, then notes begin.
+enum class Kind { Off, Control, On };
+
 struct Event {
     double Time;
-    int Order; // at the same time: notes end, controls turn, notes begin
+    Kind What;
     int Channel;
-    enum { Off, Control, On } Kind;
-    int First, Second;
+    int First, Second; // key and velocity, or controller and value
 };
 
 // Where each grid step of the piece begins, in seconds
@@ -105,9 +107,9 @@ void Swell(std::vector<Event>& Events, int Channel, double On, double Off, bool 
         if (Length > 0.7)
             Level = 100 + 20 * std::sin(std::numbers::pi * std::min(1.0, Place * 1.25)) -
                     (Place > 0.8 ? 60 * (Place - 0.8) : 0);
-        Events.push_back({On + Time, 1, Channel, Event::Control, 11, static_cast<int>(Level)});
+        Events.push_back({On + Time, Kind::Control, Channel, 11, static_cast<int>(Level)});
         const double Vibrato = Leads && Time > 0.35 ? std::min(18.0, 40 * (Time - 0.35)) : 0;
-        Events.push_back({On + Time, 1, Channel, Event::Control, 1, static_cast<int>(Vibrato)});
+        Events.push_back({On + Time, Kind::Control, Channel, 1, static_cast<int>(Vibrato)});
     }
 }
 
@@ -140,14 +142,13 @@ std::vector<Event> MakeEvents(const Score& From, const Arrangement& Music)
         if (P.Plays->Rings && Note.EndsPhrase) Off += 0.4;
         Off = std::max(Off, On + 0.05);
         const int Velocity = VelocityOf(From, Music, Note, Human);
-        Events.push_back({On, 2, Note.Part, Event::On, Note.Key, Velocity});
-        Events.push_back({Off, 0, Note.Part, Event::Off, Note.Key, 0});
+        Events.push_back({On, Kind::On, Note.Part, Note.Key, Velocity});
+        Events.push_back({Off, Kind::Off, Note.Part, Note.Key, 0});
         if (P.Plays->Sustained && Below == 0)
             Swell(Events, Note.Part, On, Off, Note.As != Role::Figure);
     }
-    // A key that is struck again first ends the note that still rings on it.
     std::stable_sort(Events.begin(), Events.end(), [](const Event& A, const Event& B) {
-        return A.Time != B.Time ? A.Time < B.Time : A.Order < B.Order;
+        return A.Time != B.Time ? A.Time < B.Time : A.What < B.What;
     });
     return Events;
 }
@@ -215,15 +216,15 @@ Stereo Perform(const Score& From, const Arrangement& Music, const std::string& S
     for (const Event& E : Events) {
         PlayUntil(std::min(Length, static_cast<std::size_t>(E.Time * SampleRate)));
         int& Count = Held[E.Channel * 128 + E.First];
-        switch (E.Kind) {
-        case Event::On:
+        switch (E.What) {
+        case Kind::On:
             ++Count;
             fluid_synth_noteon(Player.get(), E.Channel, E.First, E.Second);
             break;
-        case Event::Off:
+        case Kind::Off:
             if (--Count == 0) fluid_synth_noteoff(Player.get(), E.Channel, E.First);
             break;
-        case Event::Control:
+        case Kind::Control:
             fluid_synth_cc(Player.get(), E.Channel, E.First, E.Second);
             break;
         }

@@ -236,6 +236,8 @@ std::vector<Chord> ReadChords(const Reader& In, int LineNumber, const std::strin
 void ReadFigure(Reader& In, const std::string& Text)
 {
     const auto Name = Words(Text).at(0);
+    if (In.Result.Figures.contains(Name))
+        Fail(In, In.LineNumber, "figure " + Name + " stands twice");
     Figure& Result = In.Result.Figures[Name];
     int Now = 0, Bar = 0;
     for (std::size_t At = Text.find(Name) + Name.size(); At < Text.size();) {
@@ -285,7 +287,9 @@ const Part* FindPart(const Score& In, const std::string& Name)
 
 void ReadPart(Reader& In, const std::vector<std::string>& Row)
 {
-    if (Row.size() < 3) Fail(In, In.LineNumber, "a part needs a name and an instrument");
+    if (Row.size() < 3 || Row.size() % 2 == 0)
+        Fail(In, In.LineNumber,
+             "a part needs a name, an instrument and properties with their values");
     Part P;
     P.Name = Row[1];
     P.Plays = FindInstrument(Row[2]);
@@ -447,17 +451,24 @@ void ReadRow(Reader& In, const std::string& Text)
         Fail(In, In.LineNumber, "a score has no line " + Row[0]);
 }
 
-// "melody~+12" names melody
-std::string ContentName(const std::string& Content)
-{
-    return Content.substr(0, Content.find_first_of("+~/-", 1));
-}
-
+// "melody~+12": a name and its variations
 void CheckContent(const Reader& In, int LineNumber, const Section& At, const std::string& Content)
 {
-    const std::string Name = ContentName(Content);
-    if (Content != "-" && !In.Result.Figures.contains(Name) && !At.Lines.contains(Name))
+    if (Content == "-") return;
+    const auto NameEnd = std::min(Content.size(), Content.find_first_of("+~/-"));
+    const std::string Name = Content.substr(0, NameEnd);
+    const bool IsLine = At.Lines.contains(Name);
+    if (!In.Result.Figures.contains(Name) && !IsLine)
         Fail(In, LineNumber, "neither a figure nor a line is called " + Name);
+    for (std::size_t I = NameEnd; I < Content.size();) {
+        const std::size_t End = std::min(Content.size(), Content.find_first_of("+~/-", I + 1));
+        const std::string Change = Content.substr(I, End - I);
+        if (Change[0] == '+' || Change[0] == '-')
+            ReadNumber(In, LineNumber, Change.substr(1), 1, 36);
+        else if (!IsLine || (Change != "~" && Change != "/3"))
+            Fail(In, LineNumber, Name + " cannot be varied by " + Change);
+        I = End;
+    }
 }
 
 } // namespace

@@ -19,7 +19,7 @@
 //                                        b bass, B and o its lower and higher octave, f the fifth
 //                                        over it, 1 2 3.. the voices from below (4 is 1 an octave
 //                                        higher when there are three), x a stroke of a drum, z a
-//                                        rest, [b13] together; then the length
+//                                        rest, [b13] together; a length as b:3 or b/2
 //   section A
 //     chords  Dm | C . G . | ...         the chords of a bar share it evenly, . holds the last one
 //     on melody  D2 F A2 d | z c6 || ...    || ends a phrase; capital C is the middle C, c the

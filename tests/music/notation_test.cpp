@@ -69,6 +69,15 @@ TEST(Notation, ErrorsNameFileLineAndRule)
     EXPECT_NE(ErrorOf(Head + "section A\nchords Dm\nmelody d8\nform\nA low=waltz\n")
                   .find(":12: neither a figure nor a line is called waltz"),
               std::string::npos);
+    EXPECT_NE(
+        ErrorOf(Head + "section A\nchords Dm\nmelody d8\nform\nA lead=melody?12\n").find(":12:"),
+        std::string::npos);
+    EXPECT_NE(ErrorOf(Head + "section A\nchords Dm\nmelody d8\nform\nA lead=melody+octave\n")
+                  .find(":12: 'octave' must be a number"),
+              std::string::npos);
+    EXPECT_NE(ErrorOf(Head + "section A\nchords Dm\nmelody d8\nform\nA low=roll~\n")
+                  .find(":12: roll cannot be varied by ~"),
+              std::string::npos);
 }
 
 TEST(Notation, AToneOutsideTheScaleNeedsASign)

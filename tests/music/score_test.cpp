@@ -205,7 +205,7 @@ TEST(Scores, NoTwoShareEnsembleAndKey)
     }
 }
 
-TEST(Scores, TracksAreNumberedWithoutGapsAndTitlesDiffer)
+TEST(Scores, ThirtyTracksAreNumberedWithoutGapsAndTitled)
 {
     std::set<std::string> Titles;
     int Track = 0;
@@ -213,4 +213,30 @@ TEST(Scores, TracksAreNumberedWithoutGapsAndTitlesDiffer)
         EXPECT_EQ(P.Written.Track, ++Track);
         EXPECT_TRUE(Titles.insert(P.Written.Title).second) << P.Written.Title;
     }
+    EXPECT_EQ(Track, 30);
+}
+
+TEST(Scores, CharactersAreManifold)
+{
+    std::set<std::string> Scales, Instruments;
+    std::set<int> Beats;
+    double Slowest = 999, Fastest = 0;
+    for (const Piece& P : AllPieces()) {
+        const std::string& Key = P.Written.Key.Name;
+        Scales.insert(Key.substr(Key.find(' ') + 1));
+        for (const Part& Q : P.Written.Parts) Instruments.insert(Q.Plays->Name);
+        // Bars of eighths are counted in eighths.
+        const bool Eighths =
+            P.Written.BeatTicks != TicksPerQuarter || P.Written.BarTicks % TicksPerQuarter != 0;
+        Beats.insert(P.Written.BarTicks / (Eighths ? TicksPerQuarter / 2 : TicksPerQuarter));
+        Slowest = std::min(Slowest, P.Written.BeatsPerMinute);
+        Fastest = std::max(Fastest, P.Written.BeatsPerMinute);
+    }
+    EXPECT_EQ(Beats, (std::set<int>{3, 4, 5, 6, 7}));
+    EXPECT_GE(Scales.size(), 12u);
+    EXPECT_GE(Instruments.size(), 30u);
+    EXPECT_GE(Slowest, 50);
+    EXPECT_LE(Slowest, 55);
+    EXPECT_GE(Fastest, 120);
+    EXPECT_LE(Fastest, 130);
 }
