@@ -306,24 +306,9 @@ void SetHandlers(const ElementArray& A, const Handlers& Does)
     for (int I = A.First; I < A.First + A.Count; ++I) SetHandlers(A(I), Does);
 }
 
-void DrawBox(const Element& Panel, const FilledBox& Box)
+void SetBoxes(const Element& Panel, std::vector<FilledBox> Boxes)
 {
-    std::vector<FilledBox>& Boxes = Changeable(Panel).Boxes;
-    const auto Same = [&](const FilledBox& Other) {
-        return Other.Left == Box.Left && Other.Top == Box.Top && Other.Right == Box.Right &&
-               Other.Bottom == Box.Bottom;
-    };
-    const auto Found = std::find_if(Boxes.begin(), Boxes.end(), Same);
-    if (Found == Boxes.end())
-        Boxes.push_back(Box);
-    else
-        Found->Ink = Box.Ink;
-    MarkStale(Panel);
-}
-
-void ClearBoxes(const Element& Panel)
-{
-    Changeable(Panel).Boxes.clear();
+    Changeable(Panel).Boxes = std::move(Boxes);
     MarkStale(Panel);
 }
 

@@ -140,9 +140,7 @@ void SetToolTip(const Element& E, std::string_view Text);
 void SetToolTip(const ElementArray& A, std::string_view Text);
 void SetHandlers(const Element& E, const Handlers& Does);
 void SetHandlers(const ElementArray& A, const Handlers& Does);
-void DrawBox(const Element& Panel,
-             const FilledBox& Box); // over a box of the same corners: replaces it
-void ClearBoxes(const Element& Panel);
+void SetBoxes(const Element& Panel, std::vector<FilledBox> Boxes);
 void SetLine(const Element& E, int X1, int Y1, int X2, int Y2);
 
 // Text box and list box. A text set by a rule counts as a Change.

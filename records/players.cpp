@@ -68,6 +68,18 @@ void PutChosenPlayersBack()
 
 // --- the Master Score and the graph ---
 
+// A block of 4 by 12 pixels on a grid of 6 by 14.
+static void PutGraphOnPanel()
+{
+    std::vector<FilledBox> Blocks;
+    for (int Layout = 1; Layout <= Layouts; ++Layout)
+        for (int Place = 1; Place <= Places; ++Place)
+            if (const int Colour = GraphColour(Layout, Place); Colour != 0)
+                Blocks.push_back({6 * Layout - 4, 14 * Place - 12, 6 * Layout - 1, 14 * Place - 1,
+                                 GameState.PlayerColour(Colour)});
+    SetBoxes(picGraph, std::move(Blocks));
+}
+
 void MasterScoreFor(const std::string& Name, int Colour)
 {
     GameState.MasterScore = 0;
@@ -78,7 +90,7 @@ void MasterScoreFor(const std::string& Name, int Colour)
             if (Colour != NotDrawn) GraphColour(Layout, Place) = Colour;
             if (GameState.GraphType == 2) break; // only the best place of each layout
         }
-    MarkStale(picGraph);
+    if (Colour != NotDrawn) PutGraphOnPanel();
 }
 
 static void DrawGraph()
@@ -86,7 +98,7 @@ static void DrawGraph()
     GraphColour.Clear();
     for (int Box = 1; Box <= GraphBoxes; ++Box)
         if (IsPlayer(NameIn(Box))) MasterScoreFor(NameIn(Box), Box);
-    MarkStale(picGraph);
+    PutGraphOnPanel();
 }
 
 static void HideMasterScore(int Box)
@@ -278,4 +290,5 @@ void SetPlayerHandlers()
 {
     SetHandlers(cboPlayerList, {.Click = cboPlayerList_Click, .DropDown = cboPlayerList_DropDown});
     SetHandlers(lblOptLowScore, {.Click = lblOptLowScore_Click});
+    SetHandlers(imgOptLowScore, {.Action = lblOptLowScore_Click});
 }

@@ -27,7 +27,6 @@ static void BuildGameType()
     ShowChoice(imgGameTypeProfile, GameState.ProfileGameType - 1);
     ShowChoice(imgGraphType, GameState.GraphType - 1);
     ShowSizeClass();
-    ClearBoxes(picGraph);
     BuildPlayerList();
     ShowPlayers();
 }
@@ -55,7 +54,6 @@ static void imgGraphType_Action(int I)
     if (GameState.GraphType == I + 1) return;
     GameState.GraphType = I + 1;
     ShowChoice(imgGraphType, I);
-    ClearBoxes(picGraph);
     ShowPlayers();
     ChangedOption();
 }
@@ -68,14 +66,6 @@ static void imgGameTypeProfile_Action(int I)
     GameState.ProfileGameType = I + 1;
     ChangedOption();
     BuildGameType();
-}
-
-static void lblOptLowScore_Click(int I)
-{
-    GameState.ProfileSizeClass(GameState.ProfileGameType) = I + 1;
-    ShowSizeClass();
-    ShowPlayers();
-    ChangedOption();
 }
 
 // --- the pointer on the graph ---
@@ -213,8 +203,6 @@ void SetProfileHandlers()
     SetHandlers(lblGraphType, {.MouseMove = picProfile_MouseMove, .Click = imgGraphType_Action});
     SetHandlers(imgGameTypeProfile, {.Action = imgGameTypeProfile_Action});
     SetHandlers(lblGameTypeProfile, {.Click = imgGameTypeProfile_Action});
-    SetHandlers(imgOptLowScore, {.Action = lblOptLowScore_Click});
-    SetHandlers(lblOptLowScore, {.Click = lblOptLowScore_Click});
     SetHandlers(picGraph, {.MouseMove = picGraph_MouseMove, .Click = picGraph_Click});
     SetHandlers(picProfile, {.MouseMove = picProfile_MouseMove});
     SetHandlers(lblStatA, {.Click = lblStatA_Click});
