@@ -1,0 +1,229 @@
+// bots.cpp: plays whole games through the handlers and checks the board after every event by other
+// means than the rules use. "bots GAMES [SEED]".
+#include "tests/common/game_dir.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <random>
+
+static std::mt19937 Chance;
+static long long Events = 0;
+static int LastScore = 0;
+
+[[noreturn]] static void Fail(const std::string& What)
+{
+    std::cerr << "bots: after event " << Events << ", layout " << LayoutIndex() << ", type "
+              << GameState.GameType << ": " << What << std::endl;
+    std::exit(1);
+}
+
+static void Demand(bool Holds, const char* What)
+{
+    if (!Holds) Fail(What);
+}
+
+struct Place {
+    int X, Y, Z, Face;
+};
+
+// The four quarters that every tile covers. A tile is free when no quarter of the layer above lies
+// over it and one of its sides touches no quarter: another way than the anchors of BoardMap.
+static std::uint8_t Covered[12][44][44]; // layer, row, column; moved by 2 to have a rim
+
+static std::uint8_t& Quarter(int X, int Y, int Z)
+{
+    return Covered[Z][Y + 2][X + 2];
+}
+
+static bool IsFree(const Place& P)
+{
+    const int X = P.X, Y = P.Y, Z = P.Z;
+    if (Quarter(X, Y, Z + 1) || Quarter(X + 1, Y, Z + 1) || Quarter(X, Y + 1, Z + 1) ||
+        Quarter(X + 1, Y + 1, Z + 1))
+        return false;
+    const bool Left = Quarter(X - 1, Y, Z) || Quarter(X - 1, Y + 1, Z);
+    const bool Right = Quarter(X + 2, Y, Z) || Quarter(X + 2, Y + 1, Z);
+    return !(Left && Right);
+}
+
+static int CountPairs(const std::vector<Place>& All)
+{
+    std::memset(Covered, 0, sizeof Covered);
+    for (const Place& P : All)
+        for (int DY = 0; DY < 2; ++DY)
+            for (int DX = 0; DX < 2; ++DX) Quarter(P.X + DX, P.Y + DY, P.Z) = 1;
+    int FreeOfFace[FaceCount + 1] = {};
+    for (const Place& P : All) FreeOfFace[P.Face] += IsFree(P);
+    int Pairs = 0;
+    for (int Free : FreeOfFace) Pairs += Free / 2;
+    return Pairs;
+}
+
+static int OccupiedCells()
+{
+    int Count = 0;
+    for (const I16& Cell : GameState.BoardMap.Cells) Count += Cell.Value != 0;
+    return Count;
+}
+
+static void CheckBoard()
+{
+    ++Events;
+    if (GameState.GameRunning != 1) return;
+    static std::vector<Place> All;
+    All.clear();
+    int Faces[FaceCount + 1] = {};
+    for (int Tile = 1; Tile <= TileCount; ++Tile) {
+        if (!imgTile(Tile).Visible) continue;
+        const std::string& Tag = imgTile(Tile).Tag;
+        const auto Two = [&](int At) { return (Tag[At] - '0') * 10 + (Tag[At + 1] - '0'); };
+        All.push_back({Two(2), Two(4), Tag[6] - '0', Two(0)});
+        ++Faces[All.back().Face];
+        Demand(GameState.BoardMap(All.back().X, All.back().Y, All.back().Z) == 1,
+               "a visible tile has no cell in BoardMap");
+    }
+    Demand(static_cast<int>(All.size()) == GameState.TilesLeft,
+           "TilesLeft is not the visible tiles");
+    Demand(OccupiedCells() == GameState.TilesLeft, "BoardMap holds cells without a tile");
+    for (int Face = 1; Face <= FaceCount; ++Face)
+        Demand(Faces[Face] % 2 == 0, "a face is not in pairs");
+    Demand(CountPairs(All) == GameState.MoveCount, "MoveCount differs from the pairs on the board");
+    for (int Count : {+GameState.MixCount, +GameState.UndoCount, +GameState.PairCount,
+                      +GameState.PeekCount, +GameState.PauseCount})
+        Demand(Count >= 0 && Count <= 2, "a power's count is outside 0..2");
+    Demand(GameState.Score >= LastScore, "the score went down");
+    LastScore = GameState.Score;
+}
+
+static int Draw(int Count)
+{
+    return static_cast<int>(Chance() % static_cast<unsigned>(Count));
+}
+
+static void Press(const Element& E)
+{
+    PressAt(E);
+    CheckBoard();
+}
+
+static void PressTile(int Tile)
+{
+    imgTile_MouseMove(Tile, MouseButton::Left, 0, 0);
+    CheckBoard();
+    imgTile_MouseDown(Tile, MouseButton::Left, 0, 0);
+    CheckBoard();
+}
+
+// Now and then a power, a blocked tile, a press on the empty board.
+static void Dabble()
+{
+    const int AnyTile = 1 + Draw(TileCount);
+    switch (Draw(12)) {
+    case 0:
+        Press(imgUndo);
+        break;
+    case 1:
+        if (imgTile(AnyTile).Visible && GameState.PeekCount > 0 && GameState.GameType == Finesse) {
+            Press(imgPeek);
+            PressTile(AnyTile);
+        }
+        break;
+    case 2:
+        if (imgTile(AnyTile).Visible && GameState.PairCount > 0 && GameState.GameType == Finesse) {
+            Press(imgPair);
+            PressTile(AnyTile);
+        }
+        break;
+    case 3:
+        if (imgTile(AnyTile).Visible && !tmrPause.Enabled) PressTile(AnyTile);
+        break;
+    case 4:
+        picBoard_MouseDown(0, MouseButton::Left, 0, 0);
+        break;
+    case 5:
+        Press(GameState.GameType == Agility ? imgMixAgility : imgMixFinesse);
+        break;
+    default:
+        break;
+    }
+    CheckBoard();
+}
+
+static void AnswerBoxes()
+{
+    if (picNoMovesMix.Visible) {
+        Press(imgNoMovesMixOK);
+        Press(GameState.GameType == Agility ? imgMixAgility : imgMixFinesse);
+    }
+    if (picNoMoves.Visible) Press(imgNoMovesOK);
+    if (picGameWon.Visible && picCongrats.Visible) Press(imgCongratsOK);
+    if (picGameWon.Visible && picNewHigh.Visible) {
+        SendText(txtName, "Bot " + std::to_string(Draw(20)));
+        Press(imgNewHighOK);
+        Press(imgOKScores);
+    }
+}
+
+static void PlayGame(int Type, int Group, int Number)
+{
+    GameState.GameType = Type;
+    ShowGamePanel();
+    if (GameState.LayoutGroup != Group) {
+        GameState.LayoutGroup = Group;
+        LoadLayoutGeometry();
+    }
+    GameState.LayoutNumber = Number;
+    LastScore = 0;
+    Press(imgbutStart);
+    Demand(GameState.GameRunning == 1, "imgbutStart started no game");
+    for (int Move = 0; Move < 2000 && GameState.GameRunning == 1; ++Move) {
+        if (Draw(20) == 0) Dabble();
+        AnswerBoxes();
+        if (GameState.GameRunning != 1 || GameState.MoveCount == 0) {
+            if (GameState.GameRunning == 1 && GameState.MixCount == 0) break;
+            if (GameState.GameRunning == 1) Press(Type == Agility ? imgMixAgility : imgMixFinesse);
+            AnswerBoxes();
+            continue;
+        }
+        const int Pair = 1 + Draw(GameState.MoveCount);
+        const int First = GameState.OpenPairA(Pair), Second = GameState.OpenPairB(Pair);
+        if (GameState.TileSelected == 1) PressTile(GameState.SelectedTile);
+        PressTile(First);
+        if (imgTile(First).Visible && imgTile(Second).Visible && GameState.TileSelected == 1)
+            PressTile(Second);
+        AnswerBoxes();
+    }
+    AnswerBoxes();
+    if (imgbutEnd.Visible) {
+        Press(imgbutEnd);
+        if (picEnd.Visible) Press(imgEndYES);
+    }
+    Demand(imgbutStart.Visible && !imgbutEnd.Visible,
+           "the panel does not wait for the start button");
+    Demand(!picBlack.Visible && !picContainer.Visible, "a panel stayed up after the game");
+}
+
+int main(int Count, char** Arguments)
+{
+    const int Games = Count > 1 ? std::atoi(Arguments[1]) : 500;
+    Chance.seed(Count > 2 ? static_cast<unsigned>(std::atoi(Arguments[2])) : 1);
+    BootGame();
+    Demand(frmMain.Visible, "the game did not come up");
+    const auto Start = std::chrono::steady_clock::now();
+    for (int Game = 0; Game < Games; ++Game)
+        PlayGame(1 + Draw(2), Game * 3 / std::max(1, Games), 1 + Draw(120));
+    const double Seconds =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count();
+    int Won = 0, Lost = 0;
+    for (int Index = 1; Index <= 360; ++Index) {
+        Won += GameState.LayoutWon(Index);
+        Lost += GameState.LayoutLost(Index);
+    }
+    std::cout << Games << " games, " << Events << " events, " << Won << " won, " << Lost
+              << " lost, " << static_cast<int>(Games / Seconds * 60) << " games a minute"
+              << std::endl;
+    std::filesystem::remove_all(GameDirectory);
+    return 0;
+}
