@@ -112,28 +112,6 @@ std::string CheckArea(const Layout& L)
     return "";
 }
 
-// Takes free tiles away until none is free.
-std::string CheckClearable(const Layout& L)
-{
-    std::vector<LayoutTile> Left = L.Tiles;
-    for (size_t Before = 0; Before != Left.size() && !Left.empty();) {
-        Before = Left.size();
-        std::erase_if(Left, [Left](const LayoutTile& T) {
-            bool OnLeft = false, OnRight = false, Above = false;
-            for (const LayoutTile& O : Left) {
-                const bool SameRow = O.Z == T.Z && std::abs(O.Y - T.Y) < 2;
-                OnLeft |= SameRow && O.X == T.X - 2;
-                OnRight |= SameRow && O.X == T.X + 2;
-                Above |= O.Z == T.Z + 1 && Touch(O, T);
-            }
-            return !Above && !(OnLeft && OnRight);
-        });
-    }
-    if (Left.empty()) return "";
-    return std::to_string(Left.size()) + " tiles can never be freed, among them " +
-           PlaceText(Left[0]);
-}
-
 // Heights over the half steps as bit rows: Planes[z - 1] holds a bit for each cell whose stack has
 // at least z tiles. Planes[0] is the footprint.
 constexpr int MaskRows = 18;
@@ -225,8 +203,8 @@ Difference LeastDifference(const Relief& A, const Relief& B)
 void CheckLayout(const Layout& L, std::vector<std::string>& Faults)
 {
     // Later rules rest on the former ones.
-    for (const auto Rule : {CheckName, CheckCount, CheckBounds, CheckOverlap, CheckSupport,
-                            CheckOrder, CheckArea, CheckClearable}) {
+    for (const auto Rule :
+         {CheckName, CheckCount, CheckBounds, CheckOverlap, CheckSupport, CheckOrder, CheckArea}) {
         const std::string What = Rule(L);
         if (What.empty()) continue;
         Fault(L, Faults, What);

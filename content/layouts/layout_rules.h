@@ -3,8 +3,9 @@
 
 #include "layout_source.h"
 
-// Checks one layout: name, tile count, overlap, support, order, bounds, place on the screen, and
-// that it can be cleared in some order. Each fault adds a line "file:line: what is wrong".
+// Checks one layout: name, tile count, bounds, overlap, support, order and place on the screen. The
+// first broken rule adds a line "file:line: what is wrong". That a layout can be cleared follows:
+// the leftmost tile of the highest layer is always free.
 void CheckLayout(const Layout& Checked, std::vector<std::string>& Faults);
 
 // Checks that no two layouts share a number or a name, and that any two differ in footprint and in
