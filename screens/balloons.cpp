@@ -6,22 +6,22 @@ struct BalloonRow {
     const char* Text;
 };
 
-// A single element as an array of one.
-static ElementArray Single(const Element& E)
+// A single element as an array of one. By its number: the table stands before the elements are made.
+static ElementArray Single(int Id)
 {
-    return {E.Name, E.Id, 0, 1};
+    return {"", Id, 0, 1};
 }
 
 static const BalloonRow Balloons[] = {
     {lblScore, " Your Score "},
     {lblLayoutMain, " Current Layout "},
-    {Single(lblSkipTrack), " Skip Music Track "},
+    {Single(Id_lblSkipTrack), " Skip Music Track "},
     {lblCurrentTrack, " Current Music Track "},
-    {Single(imgWindowMode(0)), " Switch to Window Mode "},
-    {Single(imgWindowMode(1)), " Switch to Full Screen Mode "},
-    {Single(lblCloseGame), " Exit to Windows "},
-    {Single(lblMinimize), " Minimize Game "},
-    {Single(lblHelpBalloons), " These are Help Balloons "},
+    {Single(Id_imgWindowMode), " Switch to Window Mode "},
+    {Single(Id_imgWindowMode + 1), " Switch to Full Screen Mode "},
+    {Single(Id_lblCloseGame), " Exit to Windows "},
+    {Single(Id_lblMinimize), " Minimize Game "},
+    {Single(Id_lblHelpBalloons), " These are Help Balloons "},
     {lblProScore, " Master Score for this player. Based on all high score entries "},
     {lblTotalPlayed, " Games Completed "},
     {lblTotalWon, " Games Won "},
