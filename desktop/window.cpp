@@ -75,6 +75,7 @@ static void BringUpWindow()
     if (FullScreen) {
         Window->setMinimumSize(0, 0);
         Window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        Window->setGeometry(Window->screen()->geometry());
         Window->showFullScreen();
     } else {
         Window->setWindowFlag(Qt::FramelessWindowHint, Screen == &frmSplash);
@@ -230,7 +231,7 @@ static void SetClockToNextTimer()
 static void AfterEvent()
 {
     if (Ended) {
-        QApplication::quit();
+        QApplication::exit(0);
         return;
     }
     BringUpWindow();
