@@ -1,6 +1,7 @@
 // bug.cpp: insects and spiders from above, head up
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Bug {
     const Recipe& R;

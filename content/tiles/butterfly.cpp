@@ -1,6 +1,7 @@
 // butterfly.cpp: butterflies from above; the right half is drawn, the left mirrored
 
 #include "drawing.h"
+#include "kinds.h"
 
 // Outlines of the right wings.
 static const QMap<QString, Points> ForeWings = {

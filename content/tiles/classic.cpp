@@ -1,6 +1,6 @@
 // classic.cpp: the tiles of old - dots, sticks, brush characters, winds and dragons
 
-#include "tiles.h"
+#include "kinds.h"
 
 #include <cmath>
 

@@ -1,6 +1,7 @@
 // colour_samples.cpp: one colour as a splash of paint, a tube, a crayon or a gem
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct ColourSample {
     const Recipe& R;

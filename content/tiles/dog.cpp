@@ -1,6 +1,7 @@
 // dog.cpp: heads of dogs from the front
 
 #include "drawing.h"
+#include "kinds.h"
 
 // The right half of each shape of head, from the crown to the chin.
 static const QMap<QString, Points> Heads = {

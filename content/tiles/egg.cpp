@@ -1,6 +1,7 @@
 // egg.cpp: painted eggs; patterns are clipped to the shell
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Egg {
     const Recipe& R;

@@ -1,6 +1,7 @@
 // fish.cpp: fish from the side, looking left
 
 #include "drawing.h"
+#include "kinds.h"
 
 // Tail fins, from the root.
 static const QMap<QString, Points> Tails = {

@@ -1,6 +1,7 @@
 // flower.cpp: flowers from the front as rings of petals, and some from the side
 
 #include "drawing.h"
+#include "kinds.h"
 
 // A petal of length L and half width W, from the origin upwards.
 static QPainterPath Petal(const QString& Kind, double L, double W)

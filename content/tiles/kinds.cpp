@@ -1,6 +1,6 @@
 // kinds.cpp: every kind of face by its name
 
-#include "tiles.h"
+#include "kinds.h"
 
 struct KindRow {
     const char* Name;
@@ -8,20 +8,18 @@ struct KindRow {
 };
 
 constexpr KindRow Kinds[] = {
-    {"bug", DrawBug},
-    {"butterfly", DrawButterfly},
-    {"classic", DrawClassic},
-    {"colour", DrawColourSample},
-    {"dog", DrawDog},
-    {"egg", DrawEgg},
-    {"fish", DrawFish},
-    {"flower", DrawFlower},
-    {"letter", DrawLetterSample},
-    {"mask", DrawMask},
-    {"plane", DrawPlane},
-    {"service", DrawService},
-    {"shoe", DrawShoe},
-    {"tree", DrawTree},
+    {"african", DrawAfrican}, {"bird", DrawBird},
+    {"bug", DrawBug},         {"butterfly", DrawButterfly},
+    {"classic", DrawClassic}, {"colour", DrawColourSample},
+    {"cosmos", DrawCosmos},   {"dino", DrawDino},
+    {"dog", DrawDog},         {"egg", DrawEgg},
+    {"fish", DrawFish},       {"flower", DrawFlower},
+    {"hand", DrawHand},       {"letter", DrawLetterSample},
+    {"mask", DrawMask},       {"monument", DrawMonument},
+    {"plane", DrawPlane},     {"sea", DrawSea},
+    {"shield", DrawShield},   {"service", DrawService},
+    {"shoe", DrawShoe},       {"sino", DrawSino},
+    {"sunset", DrawSunset},   {"tree", DrawTree},
 };
 
 constexpr const char* PictureKinds[] = {"emoji", "clipart", "flag", "symbola", "maya", "aegyptus"};
@@ -37,7 +35,5 @@ void DrawFace(QPainter& P, const Face& F)
             P.restore();
             return;
         }
-    // not yet drawn: a plain numbered tile
-    QPainterPath Name = TextPath(FontFile::SansBold, F.Keys.Place.section(':', 1), 40);
-    Fill(P, Fitted(Name, QRectF(20, 30, 60, 40)), "#8a8a80");
+    FatalError(F.Keys.Place + ": no kind of face is called " + F.Kind);
 }

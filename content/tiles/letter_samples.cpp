@@ -1,6 +1,7 @@
 // letter_samples.cpp: letters and numbers as toys
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct LetterSample {
     const Recipe& R;

@@ -1,6 +1,7 @@
 // mask.cpp: masks of many peoples
 
 #include "drawing.h"
+#include "kinds.h"
 
 // Outlines of the faces; "eye" covers the eyes only.
 static const QMap<QString, Points> Faces = {{"oval",

@@ -1,6 +1,7 @@
 // plane.cpp: aircraft from above, nose up, then turned
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Plane {
     const Recipe& R;

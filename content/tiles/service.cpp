@@ -1,6 +1,7 @@
 // service.cpp: things of the fire brigade and the police
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Service {
     const Recipe& R;

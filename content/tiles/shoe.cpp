@@ -1,6 +1,7 @@
 // shoe.cpp: shoes from the side, toe to the left
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Shoe {
     const Recipe& R;

@@ -74,19 +74,3 @@ void DrawPictureFace(QPainter& P, const Face& F);
 // kinds.cpp: every kind by its name
 using DrawKind = void (*)(QPainter& P, const Recipe& R);
 void DrawFace(QPainter& P, const Face& F);
-
-// one file each: drawings by recipe
-void DrawBug(QPainter& P, const Recipe& R);
-void DrawButterfly(QPainter& P, const Recipe& R);
-void DrawClassic(QPainter& P, const Recipe& R);
-void DrawColourSample(QPainter& P, const Recipe& R);
-void DrawDog(QPainter& P, const Recipe& R);
-void DrawEgg(QPainter& P, const Recipe& R);
-void DrawFish(QPainter& P, const Recipe& R);
-void DrawFlower(QPainter& P, const Recipe& R);
-void DrawLetterSample(QPainter& P, const Recipe& R);
-void DrawMask(QPainter& P, const Recipe& R);
-void DrawPlane(QPainter& P, const Recipe& R);
-void DrawService(QPainter& P, const Recipe& R);
-void DrawShoe(QPainter& P, const Recipe& R);
-void DrawTree(QPainter& P, const Recipe& R);

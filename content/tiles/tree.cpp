@@ -1,6 +1,7 @@
 // tree.cpp: trees and plants with a trunk
 
 #include "drawing.h"
+#include "kinds.h"
 
 struct Tree {
     const Recipe& R;
