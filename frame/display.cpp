@@ -108,7 +108,9 @@ void MainScreen_Resize()
     GameState.RestoreDisplayPending = 0;
     if (imgWindowMode(0).Visible) GameMode();
     Platform.Yield();
-    if (GameState.GameType == Agility) SetClock(1);
+    // Under a box or a screen no timer was running that could go on.
+    const bool PanelUp = picBlack.Visible || picContainer.Visible;
+    if (GameState.GameType == Agility && !PanelUp) SetClock(1);
 }
 
 void ShutdownDisplay()

@@ -1,0 +1,223 @@
+// monkey.cpp: random events to the whole program through the hit test, and after each of them what
+// must hold whatever was pressed. "monkey EVENTS [SEED]".
+#include "media/media.h"
+#include "tests/common/game_dir.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <random>
+
+static std::mt19937 Chance;
+static long long Event = 0, Now = 0;
+static bool Ended = false;
+static std::string Last; // what was done
+
+static int Draw(int Count)
+{
+    return static_cast<int>(Chance() % static_cast<unsigned>(Count));
+}
+
+static void Demand(bool Holds, const std::string& What)
+{
+    if (Holds) return;
+    std::cerr << "monkey: after event " << Event << " (" << Last << "): " << What << std::endl;
+    std::exit(1);
+}
+
+static int CountShown(std::initializer_list<const Element*> Panels)
+{
+    int Count = 0;
+    for (const Element* Panel : Panels) Count += Panel->Visible;
+    return Count;
+}
+
+static void CheckProgram()
+{
+    const int Full =
+        CountShown({&picOptions, &picHistory, &picScores, &picProfile, &picLayouts, &picHelp});
+    const int Boxes =
+        CountShown({&picMenu, &picExit, &picEnd, &picNoMoves, &picNoMovesMix, &picGameWon});
+    Demand(Full <= 1, "more than one full-size screen is up");
+    Demand(Boxes <= 1, "more than one box is up");
+    Demand(Full == 0 || Boxes == 0, "a box and a full-size screen are up");
+    Demand(Ended || picContainer.Visible == (Full == 1),
+           "picContainer does not follow the screens");
+    Demand(picBlack.Visible == (Boxes == 1), "the dim layer does not follow the boxes");
+    Demand(GameState.ButtonDown == 0 || GameState.ButtonDown == 1,
+           "the latch is neither up nor down");
+    Demand(imgbutStart.Visible != imgbutEnd.Visible, "start and end are not one");
+    Demand(!tmrAgility.Enabled || !tmrPause.Enabled, "clock and pause run at once");
+    const bool Clock = tmrAgility.Enabled || tmrPause.Enabled;
+    const bool MayRun = GameState.GameType == Agility && GameState.GameRunning == 1;
+    const bool Away = GameState.RestoreDisplayPending == 1;
+    Demand(!Clock || (MayRun && Full + Boxes == 0 && !Away), "the clock runs where it must stand");
+    Demand(Clock || !MayRun || Full + Boxes > 0 || Away, "the clock stands where it must run");
+    for (int Type = 1; Type <= 3; ++Type)
+        Demand(GameState.GameRunning == 0 ||
+                   picGamePanel(Type).Visible == (Type == GameState.GameType),
+               "the game panel is of another type");
+    int Visible = 0;
+    for (int Tile = 1; Tile <= TileCount; ++Tile) Visible += imgTile(Tile).Visible;
+    Demand(GameState.GameRunning == 0 || Visible == GameState.TilesLeft,
+           "TilesLeft is not the visible tiles");
+}
+
+static float X = 500, Y = 300;
+
+static void MoveSomewhere()
+{
+    X = static_cast<float>(Draw(1024));
+    Y = static_cast<float>(Draw(768));
+}
+
+// A place inside some visible element: more goes on there than at any place of the screen.
+static void MoveToElement()
+{
+    for (int Try = 0; Try < 30; ++Try) {
+        const Element& E = Elements[Draw(ElementCount)];
+        if (E.Kind == ElementKind::Screen || E.Kind == ElementKind::Timer ||
+            E.Kind == ElementKind::Store || !IsShown(E) || E.Width < 1)
+            continue;
+        const Point Place = ScreenPlace(E);
+        X = Place.X + static_cast<float>(Draw(static_cast<int>(E.Width)));
+        Y = Place.Y + static_cast<float>(Draw(static_cast<int>(E.Height) + 1));
+        return;
+    }
+    MoveSomewhere();
+}
+
+static std::string NameOf(const Element* E)
+{
+    return E ? ElementText(*E) : "nothing";
+}
+
+static void PassTime()
+{
+    Now += Draw(1500);
+    RunDueTimers(Now);
+    Last = "time";
+}
+
+static void PressHere()
+{
+    const MouseButton Button = Draw(8) == 0 ? MouseButton::Right : MouseButton::Left;
+    SendMouseMove(X, Y);
+    Last = "press on " + NameOf(SendMouseDown(Button, X, Y));
+    if (Draw(10) == 0) MoveSomewhere(); // a drag
+    if (!Ended) SendMouseUp(Button, X, Y);
+}
+
+// A run of pairs, so that games come to their ends.
+static void PlayPairs()
+{
+    for (int Turn = Draw(60); Turn > 0 && GameState.MoveCount > 0; --Turn) {
+        const int Pair = 1 + Draw(GameState.MoveCount);
+        for (const int Tile : {+GameState.OpenPairA(Pair), +GameState.OpenPairB(Pair)})
+            if (Tile > 0 && imgTile(Tile).Visible && !picBlack.Visible && !picContainer.Visible)
+                PressAt(imgTile(Tile));
+        CheckProgram();
+    }
+    Last = "a run of pairs";
+}
+
+static void UseKeys()
+{
+    constexpr const char* Keys[] = {"up", "down", "left", "right", "a"};
+    SendKeyDown(Keys[Draw(5)], Draw(2) == 0, Draw(4) == 0, false);
+    if (const Element* Box = Focused()) {
+        SendText(*Box, Draw(3) == 0 ? "" : "Player " + std::to_string(Draw(40)));
+        if (Draw(2) == 0) SendKeyPress(*Box, 13);
+    }
+    Last = "keys";
+}
+
+static void ChoosePlayer()
+{
+    const Element& Box = cboPlayerList(1 + Draw(12));
+    if (!IsShown(Box) || Box.Items.empty()) return;
+    SendDropDown(Box);
+    SendChoice(Box, Box.Items[static_cast<std::size_t>(Draw(static_cast<int>(Box.Items.size())))]);
+    Last = "a choice in " + ElementText(Box);
+}
+
+static void StartAgain()
+{
+    Ended = false;
+    const std::string Folder = GameDirectory;
+    GameState = GameStateRecord();
+    InitElements();
+    SetAllHandlers();
+    SplashLoad();
+    for (int Step = 0; Step < 60; ++Step) RunDueTimers(Now += 100);
+    Last = "a new start";
+}
+
+static void DoSomething()
+{
+    if (GameState.RestoreDisplayPending == 1) { // away: time passes, no pointer reaches it
+        PassTime();
+        CheckProgram();
+        if (Draw(3) == 0) MainScreen_Resize();
+        Last = "back on the screen";
+        return;
+    }
+    switch (Draw(15)) {
+    case 0:
+        PassTime();
+        break;
+    case 1:
+        UseKeys();
+        break;
+    case 2:
+        ChoosePlayer();
+        break;
+    case 3:
+        MoveSomewhere();
+        PressHere();
+        break;
+    case 4:
+        ActiveMP31_StateChange(Draw(5));
+        Last = "the player's state";
+        break;
+    case 5:
+        PlayPairs();
+        break;
+    case 6:
+        MoveToElement();
+        SendMouseMove(X, Y);
+        Last = "a move";
+        break;
+    default:
+        MoveToElement();
+        PressHere();
+        break;
+    }
+}
+
+int main(int Count, char** Arguments)
+{
+    const long long Events = Count > 1 ? std::atoll(Arguments[1]) : 100000;
+    Chance.seed(Count > 2 ? static_cast<unsigned>(std::atoi(Arguments[2])) : 1);
+    BootGame();
+    Now = 6100;
+    Platform.Milliseconds = [] { return Now; };
+    Platform.End = [] { Ended = true; };
+    int Starts = 1;
+    for (Event = 1; Event <= Events; ++Event) {
+        DoSomething();
+        CheckProgram();
+        StaleRectangles().clear();
+        if (Ended) {
+            StartAgain();
+            CheckProgram();
+            ++Starts;
+        }
+    }
+    int Games = 0;
+    for (int Index = 1; Index <= 360; ++Index)
+        Games += GameState.LayoutWon(Index) + GameState.LayoutLost(Index);
+    std::cout << Events << " events, " << Starts << " starts, " << Games << " games won or lost"
+              << std::endl;
+    std::filesystem::remove_all(GameDirectory);
+    return 0;
+}
