@@ -168,6 +168,7 @@ void InitElements()
         for (int Place = 0; Place < Row.Count; ++Place) BringToFront(Elements[Row.Id + Place]);
         if (Row.Style.Pair) BringToFront(Elements[Row.Id]); // the text over its shadow
     }
+    SetDesignPlaces();
     SetDesignCaptions();
     StaleRectangles().clear();
 }

@@ -112,7 +112,9 @@ struct ElementArray {
 
 // Puts every element into its design state. Start-up calls it once; tests for each fresh game.
 void InitElements();
-void SetDesignCaptions(); // captions.cpp: what labels say from the start; InitElements calls it
+// design.cpp: what the table of the screens cannot tell; InitElements calls them.
+void SetDesignPlaces();
+void SetDesignCaptions();
 
 std::string ElementText(const Element& E);                    // "imgTile(5)", "picNote"
 const Element* FindElement(std::string_view Name, int Index); // nullptr; Index -1 for none

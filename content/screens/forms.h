@@ -6,8 +6,20 @@
 
 #include <functional>
 
-// Pictures are gathered in sheets by the time when they are needed.
-enum Sheet { MainSheet = 1, BoxSheet = 2, SplashSheet = 3, WonSheet = 4 };
+// Pictures are gathered in sheets by the time when they are needed: a sheet is read as a whole.
+enum Sheet {
+    MainSheet = 1,
+    MenuSheet,
+    BoxSheet,
+    WonSheet,
+    SplashSheet,
+    StockSheet, // option balls and group buttons, on several screens
+    OptionsSheet,
+    ChooserSheet,
+    RecordsSheet,
+    HelpSheet,
+    LastSheet = HelpSheet
+};
 
 struct FormPicture {
     QString Name; // of the element
@@ -23,9 +35,11 @@ void AddForm(FormPictures& To, const QString& Element, Sheet On, const Drawing& 
 void AddStore(FormPictures& To, const QString& Store, Sheet On,
               const std::function<void(QPainter& P, const QRectF& Cell, int Number)>& Draw);
 
-void AddBar(FormPictures& To);     // forms_bar.cpp: the control bar, its panels and the board's top
-void AddNotes(FormPictures& To);   // forms_notes.cpp: notes and digits
-void AddBoxes(FormPictures& To);   // forms_boxes.cpp: menu and boxes
+void AddBar(FormPictures& To);   // forms_bar.cpp: the control bar, its panels and the board's top
+void AddNotes(FormPictures& To); // forms_notes.cpp: notes and digits
+void DrawNoteCell(QPainter& P, const QRectF& Cell, int Number);
+void DrawLedDigit(QPainter& P, const QRectF& Cell, int Number); // 0 blank, d + 1 the digit d
+void AddBoxes(FormPictures& To);                                // forms_boxes.cpp: menu and boxes
 void AddButtons(FormPictures& To); // forms_buttons.cpp: every button of every screen
 void AddScreens(FormPictures& To); // forms_screens.cpp: other pictures of the full-size screens
 void AddSplash(FormPictures& To);  // forms_splash.cpp: logo and title
@@ -35,5 +49,6 @@ void WriteSheets(const FormPictures& Pictures, const QString& Folder);
 
 // backgrounds.cpp, help_pages.cpp, app_icon.cpp
 void WriteBackgrounds(const QString& Folder); // DATA/EN0001 .. EN0005
-void WriteHelpPages(const QString& Folder);   // DATA/HP0001 .. HP0005
-void WriteIcons(const QString& Folder);       // ICON/16.png .. ICON/512.png
+// DATA/HP0001 .. HP0005; the tiles on them are read from GameFolder, where their maker put them.
+void WriteHelpPages(const QString& Folder, const QString& GameFolder);
+void WriteIcons(const QString& Folder); // ICON/16.png .. ICON/512.png

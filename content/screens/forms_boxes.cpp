@@ -93,7 +93,7 @@ static const QuestionRow Questions[] = {
 
 void AddBoxes(FormPictures& To)
 {
-    AddForm(To, "picMenu", BoxSheet, DrawMenu);
+    AddForm(To, "picMenu", MenuSheet, DrawMenu);
     for (const QuestionRow& Row : Questions)
         AddForm(To, Row.Panel, BoxSheet, [&](QPainter& P, const QRectF& Box) {
             DrawQuestion(P, Box, Row.Panel, Row.Drawn, Row.Title, Row.Text);

@@ -25,7 +25,7 @@ static const NoteRow Notes[] = {
     {Sign::Clock, "Cleared! Your", "time is kept", false}, // 12
 };
 
-static void DrawNote(QPainter& P, const QRectF& Cell, int Number)
+void DrawNoteCell(QPainter& P, const QRectF& Cell, int Number)
 {
     const NoteRow& Note = Notes[Number];
     P.save();
@@ -74,7 +74,7 @@ static QPainterPath Segment(double X1, double Y1, double X2, double Y2, double T
                     {X1 - H, Y1 + H}});
 }
 
-static void DrawLed(QPainter& P, const QRectF& Cell, int Number)
+void DrawLedDigit(QPainter& P, const QRectF& Cell, int Number)
 {
     P.fillRect(
         Cell, Linear(Cell.right(), Cell.top(), Cell.left(), Cell.bottom(), {"#170d05", "#0a0603"}));
@@ -109,8 +109,8 @@ static void DrawBlueDigit(QPainter& P, const QRectF& Cell, int Number)
 
 void AddNotes(FormPictures& To)
 {
-    AddStore(To, "clpNotes", MainSheet, DrawNote);
-    AddStore(To, "clpDigits", MainSheet, DrawLed);
+    AddStore(To, "clpNotes", MainSheet, DrawNoteCell);
+    AddStore(To, "clpDigits", MainSheet, DrawLedDigit);
     AddStore(To, "clpBlueDigitsA", MainSheet, DrawBlueDigit);
     AddStore(To, "clpBlueDigitsB", MainSheet, DrawBlueDigit);
 }

@@ -30,12 +30,13 @@ static void DrawDescription(QPainter& P, const QRectF& Box, const DescRow& Row)
                   1.35);
 }
 
-static void DrawSingleTile(QPainter& P, const QRectF& Box) // the frame round the chosen sample
+// The frame round the chosen sample. It stands 3 px below its cell's top and stays inside the cell.
+static void DrawSingleTile(QPainter& P, const QRectF& Box)
 {
-    const QPainterPath Frame = Rounded(1.6, 1.6, Box.width() - 3.2, Box.height() - 3.2, 5);
-    for (const double Width : {7.0, 5.0}) P.strokePath(Frame, Line(Alpha("#ffb020", .22), Width));
-    P.strokePath(Frame, Line(Alpha("#2a1402", .9), 3.6));
-    P.strokePath(Frame, Line("#ffc23a", 2.2));
+    const QPainterPath Frame = Rounded(2, 1, Box.width() - 4, Box.height() - 6, 4);
+    P.strokePath(Frame, Line(Alpha("#2a1402", .9), 4));
+    P.strokePath(Frame, Line("#ffb61e", 2.4));
+    P.strokePath(Frame, Line(Alpha("#fff2c0", .8), .8));
 }
 
 static void DrawThumbFrame(QPainter& P, const QRectF& Box)
@@ -55,18 +56,16 @@ static void DrawSet(QPainter& P, const QRectF& Box)
 
 static void DrawRandomCover(QPainter& P, const QRectF& Box)
 {
-    DrawInset(P, Box, 6);
+    DrawPanel(P, Box.adjusted(.5, .5, -.5, -.5), 11);
     const QPointF Here = BoxOf("imgRandomCover").topLeft();
     const QRectF List =
         SpanOf("imgOptRandomLayout").united(SpanOf("lblOptRandom")).translated(-Here);
-    DrawSign(P, Sign::Dice, QRectF(Box.center().x() - 26, 22, 52, 52),
-             {.Main = QColor(IvoryDark), .Ground = QColor("#7a1f14")});
-    DrawTitle(P, QRectF(0, 78, Box.width(), 44), "A layout by chance", 27);
-    P.save();
-    DrawPlate(P, List.adjusted(-26, -18, -20, 18), 8);
-    P.restore();
-    DrawText(P, QRectF(0, List.bottom() + 32, Box.width(), 24),
-             "Every new game draws its layout from the groups marked above.", {.Size = 15});
+    const SignInk Light1{.Main = QColor(IvoryDark), .Ground = QColor("#163527")};
+    DrawSign(P, Sign::Dice, QRectF(70, 32, 50, 50), Light1);
+    DrawTitle(P, QRectF(128, 36, Box.width() - 190, 44), "A layout by chance", 27, Qt::AlignLeft);
+    DrawPlate(P, List.adjusted(-26, -16, 8, 16), 6);
+    DrawText(P, QRectF(20, List.bottom() + 26, Box.width() - 40, 24),
+             "Every new game draws from the groups that are lit above.", {.Size = 14});
     DrawSocket(P, BoxOf("imgRandomOk").translated(-Here));
 }
 
@@ -82,13 +81,13 @@ static void DrawWisdomTile(QPainter& P, const QRectF& Box, bool On)
 void AddScreens(FormPictures& To)
 {
     for (int I = 0; I < 4; ++I)
-        AddForm(To, QString("imgGameDesc(%1)").arg(I), BoxSheet,
+        AddForm(To, QString("imgGameDesc(%1)").arg(I), OptionsSheet,
                 [&](QPainter& P, const QRectF& Box) { DrawDescription(P, Box, Descriptions[I]); });
     for (const bool On : {false, true})
-        AddForm(To, On ? "imgWisdomTile(1)" : "imgWisdomTile(0)", BoxSheet,
+        AddForm(To, On ? "imgWisdomTile(1)" : "imgWisdomTile(0)", OptionsSheet,
                 [&](QPainter& P, const QRectF& Box) { DrawWisdomTile(P, Box, On); });
-    AddForm(To, "imgSingleTile", BoxSheet, DrawSingleTile);
-    AddForm(To, "imgThumbFrame", BoxSheet, DrawThumbFrame);
-    AddForm(To, "imgSet", BoxSheet, DrawSet);
-    AddForm(To, "imgRandomCover", BoxSheet, DrawRandomCover);
+    AddForm(To, "imgSingleTile", OptionsSheet, DrawSingleTile);
+    AddForm(To, "imgThumbFrame", ChooserSheet, DrawThumbFrame);
+    AddForm(To, "imgSet", ChooserSheet, DrawSet);
+    AddForm(To, "imgRandomCover", ChooserSheet, DrawRandomCover);
 }

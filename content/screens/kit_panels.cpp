@@ -63,7 +63,7 @@ static QImage JadeTexture(int Width, int Height, double Scale, QPointF Origin, c
             const double Bend = FractalNoise(Dx / 80 + 40, Dy / 80 + 17, 23, 3);
             const double Ridge =
                 1 - std::abs(2 * FractalNoise(Dx / 150 + 1.6 * Bend, Dy / 60, 5, 3) - 1);
-            const double Vein = std::pow(Ridge, 22) * .16;
+            const double Vein = std::pow(Ridge, 14) * .06;
             const double Grain = (Uniform(R) - .5) * .05;
             const QColor Base = Mix(Light1, Dark1, Fall);
             const double Gain = 1 + .42 * Cloud + Vein + Grain;

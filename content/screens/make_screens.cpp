@@ -1,6 +1,8 @@
 // make_screens.cpp: writes the pictures of the screens
 //
-//   make-screens OUTDIR forms|backgrounds|help|icons ...
+//   make-screens OUTDIR forms         the pictures of the elements, and the icons
+//   make-screens OUTDIR backgrounds   the grounds of the full-size screens
+//   make-screens OUTDIR help GAMEDIR  the help pages, with the tiles of GAMEDIR
 
 #include "forms.h"
 
@@ -28,11 +30,13 @@ int main(int ArgumentCount, char** Arguments)
 {
     QGuiApplication App(ArgumentCount, Arguments);
     const QStringList Given = App.arguments();
-    if (Given.size() < 3) FatalError("usage: make-screens OUTDIR forms|backgrounds|help|icons ...");
-    for (const QString& Work : Given.mid(2)) {
-        if (Work == "forms")
-            WriteForms(Given[1]);
-        else
-            FatalError("make-screens does not know \"" + Work + "\"");
-    }
+    const QString Work = Given.value(2);
+    if (Work == "forms" && Given.size() == 3)
+        WriteForms(Given[1]);
+    else if (Work == "backgrounds" && Given.size() == 3)
+        WriteBackgrounds(Given[1]);
+    else if (Work == "help" && Given.size() == 4)
+        WriteHelpPages(Given[1], Given[3]);
+    else
+        FatalError("usage: make-screens OUTDIR forms | backgrounds | help GAMEDIR");
 }

@@ -56,3 +56,10 @@ std::vector<Place> PlacesOn(const QString& Panel)
         if (P.Panel == Panel) Found.push_back(P);
     return Found;
 }
+
+QColor PlayerInk(int Box)
+{
+    BuildTables();
+    const Colour C = GameState.PlayerColour(Box);
+    return QColor(C.Red, C.Green, C.Blue);
+}

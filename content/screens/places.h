@@ -2,6 +2,7 @@
 // table that the program is made from, so a frame that is painted here meets its label there.
 #pragma once
 
+#include <QColor>
 #include <QRectF>
 #include <QString>
 
@@ -26,3 +27,5 @@ inline QRectF BoxOf(const QString& Name)
 // The rectangle round all elements of an array, inside their panel.
 QRectF SpanOf(const QString& Base);
 std::vector<Place> PlacesOn(const QString& Panel);
+
+QColor PlayerInk(int Box); // the colour of player 1..10 in the graph; 0 is the graph's ground

@@ -73,7 +73,7 @@ static const QImage* Twin(const FormPictures& Pictures, const FormPicture& Of)
 void WriteSheets(const FormPictures& Pictures, const QString& Folder)
 {
     QByteArray Index;
-    for (const Sheet On : {MainSheet, BoxSheet, SplashSheet, WonSheet}) {
+    for (int On = MainSheet; On <= LastSheet; ++On) {
         std::vector<const QImage*> Images;
         for (const FormPicture& F : Pictures)
             if (F.On == On && Twin(Pictures, F) == &F.Image) Images.push_back(&F.Image);
@@ -85,13 +85,13 @@ void WriteSheets(const FormPictures& Pictures, const QString& Folder)
         P.setCompositionMode(QPainter::CompositionMode_Source);
         for (const QImage* Image : Images) P.drawImage(Boxes[Image].topLeft(), *Image);
         P.end();
-        SavePng(Whole, Folder + QString("/DATA/FM%1").arg(static_cast<int>(On), 4, 10, QChar('0')));
+        SavePng(Whole, Folder + QString("/DATA/FM%1").arg(On, 4, 10, QChar('0')));
         for (const FormPicture& F : Pictures) {
             if (F.On != On) continue;
             const QRect Box = Boxes[Twin(Pictures, F)];
             Index += QString("%1 %2 %3 %4 %5 %6\n")
                          .arg(F.Name)
-                         .arg(static_cast<int>(On))
+                         .arg(On)
                          .arg(Box.x())
                          .arg(Box.y())
                          .arg(Box.width())

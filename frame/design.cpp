@@ -1,5 +1,18 @@
-// captions.cpp: the captions that stand from the start and that no rule writes again
+// design.cpp: what the table of the screens cannot tell: the places of arrays that stand in more
+// than one column, and the captions that no rule writes
 #include "frame/elements.h"
+
+struct ColumnRow {
+    const char* Name;
+    int First, Count; // elements of the array
+    float Left, Top, StepY;
+};
+
+constexpr ColumnRow Columns[] = {
+    {"lblLayoutName", 12, 12, 83, 142, 44}, // the shadows of the names 0 to 11
+    {"cboPlayerList", 11, 1, 616, 300, 0},  // over the two columns of statistics
+    {"cboPlayerList", 12, 1, 806, 300, 0},
+};
 
 struct CaptionRow {
     const char* Name;
@@ -59,6 +72,16 @@ constexpr CaptionRow Captions[] = {
     {"lblCreditMusic", -1, "Credits: music and sounds"},
     {"lblCreditMaker", -1, "Credits: pictures, words"},
 };
+
+void SetDesignPlaces()
+{
+    for (const ColumnRow& Row : Columns)
+        for (int I = 0; I < Row.Count; ++I) {
+            const Element* E = FindElement(Row.Name, Row.First + I);
+            if (!E) FatalError(std::string("no element ") + Row.Name + " for a place");
+            SetPlace(*E, Row.Left, Row.Top + static_cast<float>(I) * Row.StepY);
+        }
+}
 
 void SetDesignCaptions()
 {
