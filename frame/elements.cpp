@@ -42,6 +42,7 @@ constexpr Look TopText(FontFace Face, int Size, bool Weight, Align Place, int R,
 }
 constexpr Look Ghost{.Ghost = true};
 constexpr Look GhostArt{.Art = true, .Ghost = true};
+constexpr Look PlateOnTop{.Art = true, .OnTop = true, .Ghost = true};
 constexpr Look Dim(int Shade)
 {
     return {.Shade = Shade};

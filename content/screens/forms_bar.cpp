@@ -124,29 +124,32 @@ static void DrawNoteStrip(QPainter& P, const QRectF& Box)
     DrawGoldLine(P, Shape, 1.4);
 }
 
-// One plate for the three window controls: the picture of the mode that the first one leads to, and
-// the signs of the two labels that lie over it.
-static void DrawWindowControls(QPainter& P, const QRectF& Box, Sign Mode)
+// One plate for the three window controls, with the signs of the two labels that lie over it.
+static void DrawWindowPlate(QPainter& P, const QRectF& Box)
 {
     const QPainterPath Shape = Rounded(1, 1, Box.width() - 2, Box.height() - 2, 6);
     P.fillPath(Shape, Linear(Box.right(), 0, Box.left(), Box.bottom(),
                              {Alpha("#173a2d", .94), Alpha("#0b1f15", .94)}));
     DrawGoldLine(P, Shape, 1.1);
-    const QPointF Here = BoxOf("imgWindowMode(0)").topLeft();
+    const QPointF Here = BoxOf("imgWindowPlate").topLeft();
     const QRectF Least = BoxOf("lblMinimize").translated(-Here),
                  Close = BoxOf("lblCloseGame").translated(-Here);
     for (const QRectF& Next : {Least, Close})
         P.fillRect(QRectF(Next.left() - 1, 6, 1, Box.height() - 12), Alpha(Gold, .5));
-    SignInk Colours;
-    Colours.Main = Colours.Accent = QColor(IvoryText);
-    Colours.Ground = QColor("#10291d");
-    const double Middle = (Least.left() - 1) / 2 + .5;
-    DrawSign(P, Mode, QRectF(Middle - 7.5, Box.center().y() - 7.5, 15, 15), Colours);
     const QPointF L = Least.center(), C = Close.center();
     P.strokePath(Polyline({{L.x() - 6, L.y() + 4.5}, {L.x() + 6, L.y() + 4.5}}),
                  Line(IvoryText, 2.2));
     P.strokePath(Polyline({{C.x() - 5, C.y() - 5}, {C.x() + 5, C.y() + 5}}), Line(IvoryText, 2.2));
     P.strokePath(Polyline({{C.x() + 5, C.y() - 5}, {C.x() - 5, C.y() + 5}}), Line(IvoryText, 2.2));
+}
+
+// The picture of the mode that the window control leads to.
+static void DrawWindowMode(QPainter& P, const QRectF& Box, Sign Mode)
+{
+    SignInk Colours;
+    Colours.Main = Colours.Accent = QColor(IvoryText);
+    Colours.Ground = QColor("#10291d");
+    DrawSign(P, Mode, QRectF(Box.center().x() - 7.5, Box.center().y() - 7.5, 15, 15), Colours);
 }
 
 void AddBar(FormPictures& To)
@@ -160,8 +163,9 @@ void AddBar(FormPictures& To)
     AddForm(To, "imgPauseBar", MainSheet, DrawPauseBar);
     AddForm(To, "picPeek", MainSheet, DrawPeekPanel);
     AddForm(To, "imgNote", MainSheet, DrawNoteStrip);
+    AddForm(To, "imgWindowPlate", MainSheet, DrawWindowPlate);
     AddForm(To, "imgWindowMode(0)", MainSheet,
-            [](QPainter& P, const QRectF& Box) { DrawWindowControls(P, Box, Sign::Window); });
+            [](QPainter& P, const QRectF& Box) { DrawWindowMode(P, Box, Sign::Window); });
     AddForm(To, "imgWindowMode(1)", MainSheet,
-            [](QPainter& P, const QRectF& Box) { DrawWindowControls(P, Box, Sign::FullScreen); });
+            [](QPainter& P, const QRectF& Box) { DrawWindowMode(P, Box, Sign::FullScreen); });
 }
