@@ -82,7 +82,14 @@ void ShowThumbnails()
 void ShowSetLabel()
 {
     SetCaption(lblSet, LayoutSetName(GameState.LayoutGroup));
-    SetVisible(imgRandomCover, GameState.RandomLayoutMode > 0);
+    // The random page lies beneath the thumbnails, whose sheet has holes.
+    const bool Random = GameState.RandomLayoutMode > 0;
+    SetVisible(imgRandomCover, Random);
+    for (int I = 0; I < imgOptRandomLayout.Count; ++I) {
+        SetVisible(imgOptRandomLayout(I), Random);
+        SetVisible(lblOptRandom(I), Random);
+    }
+    SetVisible(imgRandomOk, Random);
 }
 
 void OpenChooser()
