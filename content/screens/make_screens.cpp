@@ -31,12 +31,14 @@ int main(int ArgumentCount, char** Arguments)
     QGuiApplication App(ArgumentCount, Arguments);
     const QStringList Given = App.arguments();
     const QString Work = Given.value(2);
-    if (Work == "forms" && Given.size() == 3)
+    if (Work == "forms" && Given.size() == 3) {
         WriteForms(Given[1]);
-    else if (Work == "backgrounds" && Given.size() == 3)
+        WriteIcons(Given[1]);
+    } else if (Work == "backgrounds" && Given.size() == 3) {
         WriteBackgrounds(Given[1]);
-    else if (Work == "help" && Given.size() == 4)
+    } else if (Work == "help" && Given.size() == 4) {
         WriteHelpPages(Given[1], Given[3]);
-    else
+    } else {
         FatalError("usage: make-screens OUTDIR forms | backgrounds | help GAMEDIR");
+    }
 }
