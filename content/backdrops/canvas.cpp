@@ -143,10 +143,11 @@ void Calm(Picture& P, float Limit)
     R = Blurred(R, Radius);
     G = Blurred(G, Radius);
     B = Blurred(B, Radius);
-    // Half of it by drawing colours together, which alone would look like fog, half by dimming.
+    // Two thirds of it by drawing colours together, which alone would look like fog, the rest by
+    // dimming.
     for (std::size_t I = 0; I < P.size(); ++I) {
-        const float Half = std::sqrt(Keep[I]);
-        P[I] = Scaled(Mix({R[I], G[I], B[I]}, P[I], Half), Half);
+        const float Dim = std::cbrt(Keep[I]);
+        P[I] = Scaled(Mix({R[I], G[I], B[I]}, P[I], Dim * Dim), Dim);
     }
 }
 

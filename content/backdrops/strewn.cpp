@@ -92,6 +92,17 @@ Picture DrawChips(const Recipe& R)
     return S.Tint;
 }
 
+// Bright colours spill over into their surroundings.
+static void Glow(Picture& P)
+{
+    for (float Colour::*Part : {&Colour::R, &Colour::G, &Colour::B}) {
+        Field Bright(P.size());
+        for (std::size_t I = 0; I < P.size(); ++I) Bright[I] = P[I].*Part * P[I].*Part;
+        const Field Near = Blurred(Blurred(Bright, 3), 3), Far = Blurred(Blurred(Bright, 14), 14);
+        for (std::size_t I = 0; I < P.size(); ++I) P[I].*Part += 0.55F * Near[I] + 0.5F * Far[I];
+    }
+}
+
 // Blades of grass that glow from inside, the near ones in front.
 Picture DrawGrass(const Recipe& R)
 {
@@ -119,6 +130,7 @@ Picture DrawGrass(const Recipe& R)
             return Mark{Off, Half * (1 - 0.7F * std::abs(Axis) / (Wide + 0.1F)), C};
         });
     }
+    Glow(S.Tint);
     return S.Tint;
 }
 
@@ -244,7 +256,7 @@ Picture DrawCars(const Recipe& R)
     Scene S = GroundScene(R, 220);
     for (std::size_t I = 0; I < S.Relief.size(); ++I) {
         const float X = static_cast<float>(I % Width), Y = static_cast<float>(I / Width);
-        S.Relief[I] = 1.2F * Fractal(X, Y, 5, 3, Seed + 1, 0.7F);
+        S.Relief[I] = 0.55F * Fractal(X, Y, 3.4F, 2, Seed + 1, 0.7F);
     }
     Dice D{Seed};
     constexpr float RowHeight = 154, Bay = 76, Slant = 1.05F; // Slant: radians to the row
