@@ -1,5 +1,5 @@
-// Do tiles stand out from every backdrop? Measured on the made files, in CIE Lab: L runs from 0 black
-// to 100 white, a distance of 2 is just seen side by side.
+// Do tiles stand out from every backdrop? Measured on the made files, in CIE Lab: L runs from 0
+// black to 100 white, a distance of 2 is just seen side by side.
 #include "recipe.h"
 
 #include <QFileInfo>
@@ -9,13 +9,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
+#include <map>
 
 namespace
 {
 
 constexpr int LastBackdrop = 72, TileSize = 60;
-constexpr int WindowStep = 20;  // from one measured window to the next
+constexpr int WindowStep = 20; // from one measured window to the next
 
 struct Lab {
     double L, A, B;
@@ -38,9 +38,7 @@ Lab LabOf(QRgb C)
     }();
     const auto Part = [](int V) { return Linear[static_cast<std::size_t>(V)]; };
     const double R = Part(qRed(C)), G = Part(qGreen(C)), B = Part(qBlue(C));
-    const auto Root = [](double T) {
-        return T > 0.008856 ? std::cbrt(T) : 7.787 * T + 16.0 / 116;
-    };
+    const auto Root = [](double T) { return T > 0.008856 ? std::cbrt(T) : 7.787 * T + 16.0 / 116; };
     const double X = Root((0.4124 * R + 0.3576 * G + 0.1805 * B) / 0.9505);
     const double Y = Root(0.2126 * R + 0.7152 * G + 0.0722 * B);
     const double Z = Root((0.0193 * R + 0.1192 * G + 0.9505 * B) / 1.089);
@@ -68,14 +66,14 @@ QImage Read(const QString& Path)
 // One place of the board, as large as a tile.
 struct Window {
     Lab Mean;
-    double Unrest;  // standard deviation of L
+    double Unrest; // standard deviation of L
 };
 
 struct Measured {
     std::vector<Window> Windows;
-    std::vector<Lab> Map;  // 16 by 12 mean colours of the whole picture
-    std::array<double, 3> Grain{};  // mean change of L over 1, 4 and 16 pixels
-    int LongestRun = 0;    // of equal pixels in a row that is part of a slow gradient
+    std::vector<Lab> Map;          // 16 by 12 mean colours of the whole picture
+    std::array<double, 3> Grain{}; // mean change of L over 1, 4 and 16 pixels
+    int LongestRun = 0;            // of equal pixels in a row
 };
 
 Measured Measure(const QImage& Image)
@@ -98,8 +96,7 @@ Measured Measure(const QImage& Image)
             }
             constexpr double N = TileSize * TileSize;
             const Lab Mean{Sum.L / N, Sum.A / N, Sum.B / N};
-            M.Windows.push_back(
-                {Mean, std::sqrt(std::max(0.0, Squares / N - Mean.L * Mean.L))});
+            M.Windows.push_back({Mean, std::sqrt(std::max(0.0, Squares / N - Mean.L * Mean.L))});
         }
     }
     for (int Row = 0; Row < 12; ++Row) {
@@ -125,7 +122,9 @@ Measured Measure(const QImage& Image)
     for (int Y = 0; Y < Height; ++Y) {
         int Run = 1;
         for (int X = 1; X < Width; ++X) {
-            Run = Image.pixel(X, Y) == Image.pixel(X - 1, Y) ? Run + 1 : 1;
+            // Black on black is no band.
+            const bool Same = Image.pixel(X, Y) == Image.pixel(X - 1, Y);
+            Run = Same && qGray(Image.pixel(X, Y)) > 2 ? Run + 1 : 1;
             M.LongestRun = std::max(M.LongestRun, Run);
         }
     }
@@ -154,18 +153,97 @@ double EdgeDistance(const Lab& Ground, QRgb Inner)
 
 } // namespace
 
-TEST(Backdrops, TableOfFigures)
+TEST(Backdrops, EveryFileHoldsAPictureOfTheScreensSize)
+{
+    qint64 Bytes = 0;
+    for (int I = 0; I <= LastBackdrop; ++I) {
+        ASSERT_TRUE(QFileInfo::exists(PathOf(I))) << PathOf(I).toStdString();
+        EXPECT_EQ(Read(PathOf(I)).size(), QSize(Width, Height)) << "backdrop " << I;
+        Bytes += QFileInfo(PathOf(I)).size();
+    }
+    EXPECT_LT(Bytes, 25'000'000);
+}
+
+TEST(Backdrops, ATilesFaceIsFarLighterThanTheGround)
+{
+    for (int I = 0; I <= LastBackdrop; ++I) {
+        double Lightest = 0, WeakestSignal = 1e9;
+        for (const Window& W : Backdrop(I).Windows) {
+            Lightest = std::max(Lightest, W.Mean.L);
+            WeakestSignal = std::min(WeakestSignal, (LabOf(Face).L - W.Mean.L) / W.Unrest);
+        }
+        EXPECT_LT(Lightest, LabOf(Face).L - 18) << "backdrop " << I;
+        // The step to the face is well above the ground's own ups and downs.
+        EXPECT_GT(WeakestSignal, 2.0) << "backdrop " << I;
+    }
+}
+
+TEST(Backdrops, ATilesWallsStandOutFromTheGround)
+{
+    for (int I = 0; I <= LastBackdrop; ++I) {
+        double Least = 1e9;
+        for (const Window& W : Backdrop(I).Windows)
+            Least =
+                std::min({Least, EdgeDistance(W.Mean, LeftWall), EdgeDistance(W.Mean, LowerWall)});
+        EXPECT_GT(Least, 15) << "backdrop " << I;
+    }
+}
+
+TEST(Backdrops, TheGroundIsCalmWithinATilesSize)
+{
+    for (int I = 0; I <= LastBackdrop; ++I) {
+        std::vector<double> Unrest;
+        for (const Window& W : Backdrop(I).Windows) Unrest.push_back(W.Unrest);
+        EXPECT_LT(Percentile(Unrest, 0.95), 13) << "backdrop " << I;
+        EXPECT_LT(Percentile(Unrest, 1), 16) << "backdrop " << I;
+    }
+}
+
+TEST(Backdrops, NoneIsEmptyOrShowsBands)
 {
     for (int I = 0; I <= LastBackdrop; ++I) {
         const Measured& M = Backdrop(I);
-        std::vector<double> L, U, W, N;
-        for (const Window& X : M.Windows) {
-            L.push_back(X.Mean.L);
-            U.push_back(X.Unrest);
-            W.push_back(std::min(EdgeDistance(X.Mean, LeftWall), EdgeDistance(X.Mean, LowerWall)));
-            N.push_back((LabOf(Face).L - X.Mean.L) / X.Unrest);
+        EXPECT_GT(M.Grain[2], 0.5) << "backdrop " << I; // something is there to see
+        // A band of a gradient is a wide stretch of one and the same colour.
+        EXPECT_LT(M.LongestRun, 64) << "backdrop " << I;
+    }
+}
+
+TEST(Backdrops, NoTwoLookAlike)
+{
+    for (int I = 0; I <= LastBackdrop; ++I) {
+        for (int J = I + 1; J <= LastBackdrop; ++J) {
+            const Measured &P = Backdrop(I), &Q = Backdrop(J);
+            double Apart = 0;
+            for (std::size_t K = 0; K < P.Map.size(); ++K)
+                Apart += Distance(P.Map[K], Q.Map[K]) / static_cast<double>(P.Map.size());
+            // Of one colour, they may still differ in the grain of their texture.
+            for (std::size_t K = 0; K < P.Grain.size(); ++K)
+                Apart += 2 * std::abs(P.Grain[K] - Q.Grain[K]);
+            EXPECT_GT(Apart, 6) << "backdrops " << I << " and " << J;
         }
-        std::printf("%2d L %5.1f..%5.1f unrest %5.1f max %5.1f edge %5.1f signal %5.1f run %d grain %.2f %.2f %.2f\n", I,
-                    Percentile(L, 0), Percentile(L, 1), Percentile(U, 0.95), Percentile(U, 1), Percentile(W, 0), Percentile(N, 0), M.LongestRun, M.Grain[0], M.Grain[1], M.Grain[2]);
+    }
+}
+
+TEST(SampleSheets, EveryCellShowsItsBackdrop)
+{
+    const std::vector<Recipe> Recipes = ReadRecipes(BACKDROP_TABLE);
+    for (int Group = 0; Group < 2; ++Group) {
+        const QImage Sheet = Read(PathOf(9000 + Group));
+        ASSERT_EQ(Sheet.size(), QSize(12 * TileSize, 3 * TileSize));
+        for (int Cell = 0; Cell < 36; ++Cell) {
+            const int Number = Group * 36 + Cell + 1;
+            const QRect Inner(Cell % 12 * TileSize + 4, Cell / 12 * TileSize + 4, TileSize - 8,
+                              TileSize - 8);
+            const int Side = Count(Recipes[static_cast<std::size_t>(Number)], "sample", 300);
+            const QRect Piece(512 - Side / 2, 308 - Side / 2, Side, Side);
+            const auto Mean = [](const QImage& Image, const QRect& Part) {
+                return LabOf(Image.copy(Part)
+                                 .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                 .pixel(0, 0));
+            };
+            EXPECT_LT(Distance(Mean(Sheet, Inner), Mean(Read(PathOf(Number)), Piece)), 6)
+                << "backdrop " << Number;
+        }
     }
 }
