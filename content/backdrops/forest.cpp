@@ -9,7 +9,7 @@ static void PaintFir(Picture& P, float CX, float Top, float Tall, Colour Tint, f
                      unsigned Own)
 {
     const float Spread = Tall * (0.15F + 0.05F * HashUnit(1, 1, Own));
-    const float Step1 = Tall * (0.050F + 0.012F * HashUnit(2, 2, Own));
+    const float WhorlHeight = Tall * (0.050F + 0.012F * HashUnit(2, 2, Own));
     const int X0 = std::max(0, static_cast<int>(CX - Spread - 3)),
               X1 = std::min(Width - 1, static_cast<int>(CX + Spread + 3));
     for (int Y = std::max(0, static_cast<int>(Top)); Y < Height; ++Y) {
@@ -20,7 +20,7 @@ static void PaintFir(Picture& P, float CX, float Top, float Tall, Colour Tint, f
             // Branches hang: further out the whorl's edge lies lower.
             const float Hang =
                 Down * Tall - std::abs(DX) * 0.42F + 3 * Noise(DX / 5, Side + 0.5F, Own);
-            const float Turn = Hang / Step1, Whorl = Turn - std::floor(Turn);
+            const float Turn = Hang / WhorlHeight, Whorl = Turn - std::floor(Turn);
             const float Branch =
                 0.62F + 0.38F * Whorl +
                 0.45F * (HashUnit(static_cast<int>(Turn), static_cast<int>(Side), Own) - 0.5F);
@@ -33,7 +33,8 @@ static void PaintFir(Picture& P, float CX, float Top, float Tall, Colour Tint, f
             const float Lit =
                 1.0F + 0.16F * (Whorl - 0.5F) - 0.10F * DX / Spread +
                 0.12F * Noise(static_cast<float>(X) / 3, static_cast<float>(Y) / 2, Own + 5);
-            const float Fade = std::clamp(1 - Mist * Down, 0.0F, 1.0F);
+            // The foot of a tree is lost in the mist.
+            const float Fade = std::clamp(1 - Mist * Down, 0.0F, 1.0F) * Step(1.15F, 0.95F, Down);
             Colour& C = P[Y * Width + X];
             C = Mix(C, Scaled(Tint, Lit), Cover * Fade);
         }

@@ -101,7 +101,7 @@ static void Scratch(Picture& P, Field& Relief, int Scratches, unsigned Seed)
         const float X0 = Throw(D, -60, Width), Y0 = Throw(D, -60, Height);
         const float Turn = Throw(D, 0, 1) < 0.75F ? Throw(D, -1.0F, -0.5F) : Throw(D, 0, 3.1F);
         const float Length = Throw(D, 0, 1) * Throw(D, 20, 300), Bend = Throw(D, -0.0012F, 0.0012F);
-        const float Depth = Throw(D, 0.25F, 1.3F), Half = Throw(D, 0.7F, 1.5F);
+        const float Depth = Throw(D, 0.4F, 2.0F), Half = Throw(D, 0.7F, 1.5F);
         for (float T = 0; T < Length; T += 0.5F) {
             const float Angle = Turn + Bend * T;
             const float X = X0 + T * std::cos(Angle), Y = Y0 + T * std::sin(Angle);
@@ -117,7 +117,7 @@ static void Scratch(Picture& P, Field& Relief, int Scratches, unsigned Seed)
                     if (-Cut < H) {
                         H = -Cut;
                         Colour& C = P[PY * Width + PX];
-                        C = Mix(C, Scaled(C, 1.3F), 0.5F * Cut);
+                        C = Mix(C, Scaled(C, 1.4F), std::min(1.0F, 0.6F * Cut));
                     }
                 }
             }
