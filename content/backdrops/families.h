@@ -1,5 +1,5 @@
 // families.h: the kinds of texture. Each function draws one picture from a recipe, lit, but not yet
-// calmed, darkened towards the corners or dithered. The keys of each stand above its body.
+// calmed, darkened towards the corners or dithered. Each reads its keys in its first lines.
 #pragma once
 #include "canvas.h"
 #include "recipe.h"

@@ -168,12 +168,14 @@ int main(int ArgCount, char** Args)
 {
     const QGuiApplication App(ArgCount, Args);
     const QStringList Words = App.arguments();
-    if (Words.size() != 4) {
+    bool GoodFirst = false, GoodLast = false;
+    const int First = Words.value(2).toInt(&GoodFirst), Last = Words.value(3).toInt(&GoodLast);
+    if (Words.size() != 4 || !GoodFirst || !GoodLast) {
         std::fprintf(stderr, "usage: make-backdrops OUTDIR FIRST LAST\n");
         return 2;
     }
     try {
-        MakeBackdrops(Words[1], Words[2].toInt(), Words[3].toInt());
+        MakeBackdrops(Words[1], First, Last);
     } catch (const std::exception& Error) {
         std::fprintf(stderr, "make-backdrops: %s\n", Error.what());
         return 1;
