@@ -13,7 +13,6 @@ namespace
 
 // The board's area without its margins. The control bar begins at 616.
 constexpr double AreaLeft = 8, AreaRight = 1016, AreaTop = 26, AreaBottom = 608;
-constexpr double CentreX = 512, CentreY = 316;
 // The offset code is in whole pixels.
 constexpr double CentreTolerance = 0.51;
 constexpr size_t LongestName = 24;

@@ -11,9 +11,7 @@
 namespace
 {
 
-// The centre of the board's area, and the origin of a layout with offset code 0000.
-constexpr double CentreX = 512;
-constexpr double CentreY = 316;
+// The origin of a layout with offset code 0000.
 constexpr double OriginX = 105;
 constexpr double OriginY = 85;
 constexpr double HalfStep = 30.49;
@@ -228,7 +226,84 @@ void MakeTiles(const Reader& In, const Drawing& Drawn, Layout& New)
                          if (Drawn.ByColumns) return A.X != B.X ? A.X < B.X : A.Y < B.Y;
                          return A.Y != B.Y ? A.Y < B.Y : A.X < B.X;
                      });
-    if (!New.Tiles.empty()) Centre(New);
+    if (New.Tiles.empty()) {
+        In.Fault(New.Line, "the layout has no stack");
+        return;
+    }
+    Centre(New);
+}
+
+// A line of a map, with its first character still before it.
+void ReadMapLine(const Reader& In, int Line, const std::string& Text, Drawing& Drawn)
+{
+    if (Drawn.Maps.empty()) {
+        In.Fault(Line, "a line of a map stands before the word map");
+        return;
+    }
+    std::vector<MapLine>& Map = Drawn.Maps.back();
+    const int Y = Map.empty() ? 0 : Map.back().Y + (Text[0] == ':' ? 1 : 2);
+    if (Text[0] == '=' && Drawn.Maps.size() == 1) Drawn.MiddleRow = true;
+    Map.push_back({Y, Line, Text.substr(1)});
+}
+
+void ReadMirrors(const Reader& In, int Line, std::istringstream& Words, Drawing& Drawn)
+{
+    for (std::string Value; Words >> Value;) {
+        if (Value == "x")
+            Drawn.MirrorX = true;
+        else if (Value == "y")
+            Drawn.MirrorY = true;
+        else if (Value == "turn")
+            Drawn.Turn = true;
+        else
+            In.Fault(Line, "mirror takes x, y or turn, not " + Value);
+    }
+}
+
+bool IsOffset(const std::string& Value)
+{
+    return Value.size() == 4 && Value.find_first_not_of("0123456789") == std::string::npos;
+}
+
+// A line of a layout that is not part of a map.
+void ReadWords(const Reader& In, int Line, const std::string& Text, Layout& New, Drawing& Drawn)
+{
+    std::istringstream Words(Text);
+    std::string Word, Value;
+    Words >> Word;
+    if (Word == "map" || Word == "over") {
+        if (Drawn.Maps.empty() != (Word == "map"))
+            In.Fault(Line, "the first map is called map, a later one over");
+        Drawn.Maps.emplace_back();
+    } else if (Word == "mirror") {
+        ReadMirrors(In, Line, Words, Drawn);
+    } else if (Word == "order" && Words >> Value && (Value == "rows" || Value == "columns")) {
+        Drawn.ByColumns = Value == "columns";
+    } else if (Word == "offset" && Words >> Value && IsOffset(Value)) {
+        New.Offset = Value;
+    } else if (Word == "runs") {
+        Drawn.Runs = true;
+    } else {
+        In.Fault(Line, "this line is neither a map line nor a known word: " + Text);
+    }
+}
+
+// The line that begins a layout; Number stays 0 when it is no number of a list.
+Layout BeginLayout(const Reader& In, int Line, const std::string& Text, int List)
+{
+    Layout New;
+    New.List = List;
+    New.File = In.File;
+    New.Line = Line;
+    std::istringstream Words(Text);
+    std::string Word;
+    Words >> Word >> New.Number >> std::ws;
+    std::getline(Words, New.Name);
+    if (New.Number < 1 || New.Number > LayoutsInList) {
+        In.Fault(Line, "a layout's number is 1 to 120");
+        New.Number = 0;
+    }
+    return New;
 }
 
 } // namespace
@@ -261,67 +336,22 @@ void ReadLayouts(const std::string& File, int List, std::vector<Layout>& Layouts
         if (New.Number == 0) return;
         const size_t Before = Faults.size();
         MakeTiles(In, Drawn, New);
-        if (Faults.size() == Before && !New.Tiles.empty()) {
-            WorkOutOffset(New);
-            Layouts.push_back(New);
-        }
+        if (Faults.size() > Before) return;
+        WorkOutOffset(New);
+        Layouts.push_back(New);
     };
-
     std::string Text;
     for (int Line = 1; std::getline(Stream, Text); ++Line) {
         if (!Text.empty() && Text.back() == '\r') Text.pop_back();
         if (Text.empty() || Text[0] == '#') continue;
         if (Text[0] == '|' || Text[0] == ':' || Text[0] == '=') {
-            if (Drawn.Maps.empty()) {
-                In.Fault(Line, "a line of a map stands before the word map");
-                continue;
-            }
-            std::vector<MapLine>& Map = Drawn.Maps.back();
-            const int Y = Map.empty() ? 0 : Map.back().Y + (Text[0] == ':' ? 1 : 2);
-            if (Text[0] == '=' && Drawn.Maps.size() == 1) Drawn.MiddleRow = true;
-            Map.push_back({Y, Line, Text.substr(1)});
-            continue;
-        }
-        std::istringstream Words(Text);
-        std::string Word, Value;
-        Words >> Word;
-        if (Word == "layout") {
+            ReadMapLine(In, Line, Text, Drawn);
+        } else if (Text.starts_with("layout ")) {
             Finish();
-            New = Layout{};
+            New = BeginLayout(In, Line, Text, List);
             Drawn = Drawing{};
-            New.List = List;
-            New.File = File;
-            New.Line = Line;
-            Words >> New.Number >> std::ws;
-            std::getline(Words, New.Name);
-            if (New.Number < 1 || New.Number > LayoutsInList) {
-                In.Fault(Line, "a layout's number is 1 to 120");
-                New.Number = 0;
-            }
-        } else if (Word == "map" || Word == "over") {
-            if (Drawn.Maps.empty() != (Word == "map"))
-                In.Fault(Line, "the first map is called map, a later one over");
-            Drawn.Maps.emplace_back();
-        } else if (Word == "mirror") {
-            while (Words >> Value) {
-                if (Value == "x")
-                    Drawn.MirrorX = true;
-                else if (Value == "y")
-                    Drawn.MirrorY = true;
-                else if (Value == "turn")
-                    Drawn.Turn = true;
-                else
-                    In.Fault(Line, "mirror takes x, y or turn, not " + Value);
-            }
-        } else if (Word == "order" && Words >> Value && (Value == "rows" || Value == "columns")) {
-            Drawn.ByColumns = Value == "columns";
-        } else if (Word == "offset" && Words >> Value && Value.size() == 4 &&
-                   Value.find_first_not_of("0123456789") == std::string::npos) {
-            New.Offset = Value;
-        } else if (Word == "runs") {
-            Drawn.Runs = true;
         } else {
-            In.Fault(Line, "this line is neither a map line nor a known word: " + Text);
+            ReadWords(In, Line, Text, New, Drawn);
         }
     }
     Finish();

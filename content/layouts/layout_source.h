@@ -51,6 +51,8 @@ struct Layout {
 constexpr int ListCount = 3;
 constexpr int LayoutsInList = 120;
 constexpr double TilePixels = 60;
+// The middle of the board's area, screen pixels.
+constexpr double CentreX = 512, CentreY = 316;
 
 // The number of tiles that a layout of this number must have: 72, 144, 216 or 288.
 int TilesOfNumber(int Number);

@@ -166,6 +166,9 @@ TEST(LayoutSource, FaultsNameFileLineAndRule)
               "layout_source.txt:2: a line of a map stands before the word map");
     EXPECT_EQ(FaultOf("layout 121 A\n"), "layout_source.txt:1: a layout's number is 1 to 120");
     EXPECT_EQ(FaultOf("layout 1 A\n"), "layout_source.txt:1: the layout has no map");
+    EXPECT_EQ(FaultOf("layout 1 A\nmap\n|  .\n"), "layout_source.txt:1: the layout has no stack");
+    EXPECT_EQ(FaultOf("layout 1 A\nover\n|11\n"),
+              "layout_source.txt:2: the first map is called map, a later one over");
     EXPECT_EQ(FaultOf("layout 1 A\nruns\n"),
               "layout_source.txt:1: the program has no runs for this number");
     EXPECT_EQ(FaultOf("layout 1 A\nmirror z\n"),

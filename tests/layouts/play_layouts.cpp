@@ -3,6 +3,8 @@
 //
 // The player uses no powers. Of all open pairs it takes the one that frees most tiles, from the
 // highest stacks first, and a pair that is the last of its face at once.
+#include "content/layouts/layout_source.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -229,13 +231,6 @@ std::vector<Place> NextLayout(LayoutFile& File, int Tiles)
         Places.push_back({X, Y, Z});
     }
     return Places;
-}
-
-int TilesOfNumber(int Number)
-{
-    if (Number <= 12) return 72;
-    if (Number <= 72) return 144;
-    return Number <= 108 ? 216 : 288;
 }
 
 // What is wrong with a layout's figures, empty when nothing is.
