@@ -53,17 +53,22 @@ static void ReadFormIndex()
     if (FormIndex.empty()) FatalError(File + " is missing or holds no pictures");
 }
 
-constexpr int FormScale = 2; // the sheets are drawn at twice the design size
+// The sheets are drawn at twice the design size; FM0100 + n holds sheet n at the design size.
+constexpr int FormScale = 2, DesignSizeSheets = 100;
 
 // Cuts all pictures of a sheet out at the view's scale, so that the large sheet can go again.
 static void CutSheet(int Sheet)
 {
-    const QImage Pixels = ReadPicture(DataFile("FM", Sheet));
+    const bool DesignSize = KnownScale <= 1;
+    const QImage Whole = ReadPicture(DataFile("FM", DesignSize ? DesignSizeSheets + Sheet : Sheet));
     for (const auto& [Name, Row] : FormIndex) {
         if (Row.Sheet != Sheet) continue;
-        const int Width = qRound(Row.Part.width() * KnownScale / FormScale);
-        const int Height = qRound(Row.Part.height() * KnownScale / FormScale);
-        Forms[Name] = Scaled(Pixels.copy(Row.Part), std::max(Width, 1), std::max(Height, 1));
+        const QRect& Two = Row.Part;
+        const QRect Part =
+            DesignSize ? QRect(Two.topLeft() / 2, (Two.size() + QSize(1, 1)) / 2) : Two;
+        const int Width = qRound(Two.width() * KnownScale / FormScale);
+        const int Height = qRound(Two.height() * KnownScale / FormScale);
+        Forms[Name] = Scaled(Whole.copy(Part), std::max(Width, 1), std::max(Height, 1));
     }
 }
 

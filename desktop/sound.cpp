@@ -1,5 +1,8 @@
 // sound.cpp: music and effects on SDL_mixer. Without a device, or with a file that is missing or
 // broken, there is silence and no message.
+//
+// The device is opened beside the interface when the first sound is wanted, and closed again when
+// it has been silent for a while: an open device takes processor time even for silence.
 #include "desktop/desktop.h"
 #include "frame/files.h"
 #include "media/media.h"
@@ -16,14 +19,18 @@
 
 constexpr int Rate = 44100, Stereo = 2, BufferFrames = 2048;
 constexpr int EffectVoice = 0;
+constexpr int SilentSeconds = 10;
 // A track that cannot be played is passed over after so long, not at once: thirty missing files
 // must not race by.
 constexpr int BrokenTrackSeconds = 10;
 
+enum class Device { Closed, Opening, Open, Missing };
+
 static QObject* Receiver = nullptr; // on the interface thread
-static std::thread Opening;
-static std::atomic<bool> Ready = false; // the device is open
-static std::string TrackFile;
+static QTimer* Silence = nullptr;
+static std::thread Opener;
+static Device State = Device::Closed;
+static std::string TrackFile, WaitingEffect;
 static bool PlayWanted = false;
 static Mix_Music* Track = nullptr;
 static std::atomic<int> TrackNumber = 0; // goes up with every stop, so that a late end is known
@@ -31,12 +38,10 @@ static std::map<std::string, Mix_Chunk*> Effects;
 
 static void TellTrackEnded(int Number)
 {
-    QMetaObject::invokeMethod(
-        Receiver,
-        [Number] {
-            if (Number == TrackNumber) ActiveMP31_StateChange(3);
-        },
-        Qt::QueuedConnection);
+    const auto Tell = [Number] {
+        if (Number == TrackNumber) ActiveMP31_StateChange(3);
+    };
+    QMetaObject::invokeMethod(Receiver, Tell, Qt::QueuedConnection);
 }
 
 // On the mixer's thread; also after a stop, which has moved TrackNumber on.
@@ -45,42 +50,84 @@ static void OnMusicFinished()
     TellTrackEnded(TrackNumber);
 }
 
-static void PlayTrack()
+static void StartTrack()
 {
-    if (!Ready || !PlayWanted) return;
     Track = Mix_LoadMUS(HostPath(TrackFile).c_str());
     if (Track && Mix_PlayMusic(Track, 1) == 0) return;
     const int Number = TrackNumber;
     QTimer::singleShot(BrokenTrackSeconds * 1000, Receiver, [Number] { TellTrackEnded(Number); });
 }
 
+static void StartEffect(const std::string& File)
+{
+    Mix_Chunk*& Effect = Effects[File];
+    if (!Effect) Effect = Mix_LoadWAV(HostPath(File).c_str());
+    if (Effect) Mix_PlayChannel(EffectVoice, Effect, 0); // one voice: cuts off the effect before
+}
+
+static void CloseWhenSilent()
+{
+    if (State != Device::Open || PlayWanted) return;
+    if (Mix_Playing(EffectVoice)) {
+        Silence->start();
+        return;
+    }
+    for (const auto& [File, Effect] : Effects)
+        if (Effect) Mix_FreeChunk(Effect);
+    Effects.clear();
+    Mix_CloseAudio();
+    State = Device::Closed;
+}
+
+static void OnOpened(bool Opened)
+{
+    State = Opened ? Device::Open : Device::Missing;
+    if (!Opened) return;
+    if (PlayWanted && !Track) StartTrack();
+    if (!WaitingEffect.empty()) StartEffect(WaitingEffect);
+    WaitingEffect.clear();
+    Silence->start();
+}
+
+// On a thread of its own: a sound server can take its time.
 static void OpenDevice()
 {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    if (SDL_Init(SDL_INIT_AUDIO) != 0) return;
-    if (Mix_OpenAudio(Rate, MIX_DEFAULT_FORMAT, Stereo, BufferFrames) != 0) return;
-    Mix_AllocateChannels(1);
-    Mix_HookMusicFinished(OnMusicFinished);
-    Ready = true;
+    const bool Opened = SDL_Init(SDL_INIT_AUDIO) == 0 &&
+                        Mix_OpenAudio(Rate, MIX_DEFAULT_FORMAT, Stereo, BufferFrames) == 0;
+    if (Opened) {
+        Mix_AllocateChannels(1);
+        Mix_HookMusicFinished(OnMusicFinished);
+    }
     QMetaObject::invokeMethod(
-        Receiver,
-        [] {
-            if (!Track) PlayTrack();
-        },
-        Qt::QueuedConnection);
+        Receiver, [Opened] { OnOpened(Opened); }, Qt::QueuedConnection);
+}
+
+// True when the device is open; else it is on its way, unless there is none.
+static bool DeviceIsOpen()
+{
+    if (State == Device::Closed) {
+        if (Opener.joinable()) Opener.join();
+        State = Device::Opening;
+        Opener = std::thread(OpenDevice);
+    }
+    return State == Device::Open;
 }
 
 void StartSound(QObject* OnInterfaceThread)
 {
     Receiver = OnInterfaceThread;
-    Opening = std::thread(OpenDevice);
+    Silence = new QTimer(OnInterfaceThread);
+    Silence->setSingleShot(true);
+    Silence->setInterval(SilentSeconds * 1000);
+    QObject::connect(Silence, &QTimer::timeout, OnInterfaceThread, CloseWhenSilent);
 }
 
 void StopSound()
 {
-    if (Opening.joinable()) Opening.join();
-    if (!Ready) return;
+    if (Opener.joinable()) Opener.join();
     ++TrackNumber;
+    if (State != Device::Open) return;
     Mix_HookMusicFinished(nullptr);
     Mix_HaltMusic();
     Mix_CloseAudio();
@@ -90,10 +137,11 @@ void MusicStop()
 {
     ++TrackNumber;
     PlayWanted = false;
-    if (!Ready) return;
+    if (State != Device::Open) return;
     Mix_HaltMusic();
     if (Track) Mix_FreeMusic(Track);
     Track = nullptr;
+    Silence->start();
 }
 
 void MusicSetFile(const std::string& File)
@@ -105,14 +153,15 @@ void MusicPlay()
 {
     if (PlayWanted) MusicStop();
     PlayWanted = true;
-    PlayTrack();
+    if (DeviceIsOpen()) StartTrack();
 }
 
 void PlayEffect(const std::string& File)
 {
-    if (!Ready) return;
-    Mix_Chunk*& Effect = Effects[File];
-    if (!Effect) Effect = Mix_LoadWAV(HostPath(File).c_str());
-    if (!Effect) return;
-    Mix_PlayChannel(EffectVoice, Effect, 0); // one voice: cuts off the effect before
+    if (DeviceIsOpen()) {
+        StartEffect(File);
+        Silence->start();
+    } else {
+        WaitingEffect = File; // the newest one cuts off the others
+    }
 }

@@ -322,13 +322,18 @@ bool GameWindow::event(QEvent* Event)
     return QWidget::event(Event);
 }
 
+constexpr int MostPasses = 6;
+
 void GameWindow::paintEvent(QPaintEvent* Event)
 {
     const ScreenView Shown = View();
     QPainter Painter(this);
     // From here on a unit is one pixel of the device: pictures and edges stay sharp.
     Painter.scale(1 / Shown.Ratio, 1 / Shown.Ratio);
-    for (const QRect& Logical : Event->region()) {
+    // A few places one by one; many of them, as after a deal, in one pass.
+    QRegion Region = Event->region();
+    if (Region.rectCount() > MostPasses) Region = Region.boundingRect();
+    for (const QRect& Logical : Region) {
         const QRect Clip = QRectF(Logical.x() * Shown.Ratio, Logical.y() * Shown.Ratio,
                                   Logical.width() * Shown.Ratio, Logical.height() * Shown.Ratio)
                                .toAlignedRect();

@@ -1,9 +1,9 @@
 // sheets.cpp: packs the pictures of the elements into sheets
 //
 // DATA/FM0000 is text, one line a picture: NAME SHEET X Y WIDTH HEIGHT, where SHEET is the number
-// of the sheet DATA/FMnnnn and the rectangle is in its pixels. A picture is drawn into the
-// rectangle of its element, whatever its own size. Elements with the same picture share a
-// rectangle.
+// of the sheet DATA/FMnnnn and the rectangle is in its pixels, two for one of the design. A picture
+// is drawn into the rectangle of its element, whatever its own size. Elements with the same picture
+// share a rectangle.
 
 #include "forms.h"
 
@@ -34,6 +34,9 @@ void AddStore(FormPictures& To, const QString& Store, Sheet On,
     });
 }
 
+// Sheet n at the design size itself, for a desktop of ordinary pixels: FM0100 + n.
+constexpr int HalfSheet = 100;
+
 struct Packed {
     QRect Box;
     const QImage* Image;
@@ -55,9 +58,9 @@ static std::vector<Packed> PackRows(std::vector<const QImage*> Images, QSize& Wh
             RowHeight = 0;
         }
         Result.push_back({QRect(QPoint(X, Y), Image->size()), Image});
-        RowHeight = std::max(RowHeight, Image->height());
+        RowHeight = std::max(RowHeight, Image->height() + Image->height() % 2);
         Whole = Whole.expandedTo(QSize(X + Image->width(), Y + RowHeight));
-        X += Image->width() + Gap;
+        X += Image->width() + Image->width() % 2 + Gap;
     }
     return Result;
 }
@@ -80,12 +83,15 @@ void WriteSheets(const FormPictures& Pictures, const QString& Folder)
         QSize Size(1, 1);
         std::map<const QImage*, QRect> Boxes;
         for (const Packed& One : PackRows(Images, Size)) Boxes[One.Image] = One.Box;
-        QImage Whole = NewImage(Size.width(), Size.height());
+        QImage Whole = NewImage(Size.width() + Size.width() % 2, Size.height() + Size.height() % 2);
         QPainter P(&Whole);
         P.setCompositionMode(QPainter::CompositionMode_Source);
         for (const QImage* Image : Images) P.drawImage(Boxes[Image].topLeft(), *Image);
         P.end();
         SavePng(Whole, Folder + QString("/DATA/FM%1").arg(On, 4, 10, QChar('0')));
+        // Every place and size is even, so that half of it takes no colour from a neighbour.
+        SavePng(Whole.scaled(Whole.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                Folder + QString("/DATA/FM%1").arg(HalfSheet + On, 4, 10, QChar('0')));
         for (const FormPicture& F : Pictures) {
             if (F.On != On) continue;
             const QRect Box = Boxes[Twin(Pictures, F)];
