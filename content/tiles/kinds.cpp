@@ -18,8 +18,9 @@ constexpr KindRow Kinds[] = {
     {"mask", DrawMask},       {"monument", DrawMonument},
     {"plane", DrawPlane},     {"sea", DrawSea},
     {"shield", DrawShield},   {"service", DrawService},
-    {"shoe", DrawShoe},       {"sino", DrawSino},
-    {"sunset", DrawSunset},   {"tree", DrawTree},
+    {"shoe", DrawShoe},       {"sign", DrawSign},
+    {"sino", DrawSino},       {"sunset", DrawSunset},
+    {"tree", DrawTree},
 };
 
 constexpr const char* PictureKinds[] = {"emoji", "clipart", "flag", "symbola", "maya", "aegyptus"};
