@@ -227,6 +227,18 @@ static void SetClockToNextTimer()
     Clock->start(static_cast<int>(std::max(0LL, Next->Due - SinceStart.elapsed())));
 }
 
+// While the title stands, the pictures of the board are read that its first painting needs.
+static void ReadPicturesAhead()
+{
+    static bool Done = false;
+    if (Done || ScreenOnShow != &frmSplash || !tmrTitle.Enabled) return;
+    Done = true;
+    const double Scale = View().Scale;
+    FindPixels(picBoard.Shows, Scale);
+    FindPixels(picBevelRight.Shows, Scale);
+    FindPixels(imgTile(1).Shows, Scale);
+}
+
 // After everything that may have changed the model.
 static void AfterEvent()
 {
@@ -237,6 +249,7 @@ static void AfterEvent()
     BringUpWindow();
     UpdateStale();
     SyncControls();
+    ReadPicturesAhead();
     SetClockToNextTimer();
 }
 
