@@ -53,3 +53,48 @@ void PaintMoonGate(Scene& P); // a garden seen through a round door
 void PaintStreet(Scene& P);   // houses and lamps
 void PaintOasis(Scene& P);    // palms around a pool
 void PaintSteppe(Scene& P);   // grass to the foot of the mountains
+
+// compositions_shores.cpp
+void PaintLakeView(Scene& P);    // a lake with islands, seen from a hill
+void PaintMirror(Scene& P);      // one mountain and its mirror image
+void PaintStacks(Scene& P);      // pillars and arches in the surf
+void PaintBay(Scene& P);         // a beach swings out of the distance
+void PaintQuay(Scene& P);        // great sails close by
+void PaintBrook(Scene& P);       // a brook over stones
+void PaintCascade(Scene& P);     // a fall from ledge to ledge
+void PaintHorseshoe(Scene& P);   // a river falls over a wide rim
+void PaintAtoll(Scene& P);       // a small island with palms
+void PaintJetty(Scene& P);       // planks lead out onto a lake
+void PaintRiverTown(Scene& P);   // lights drift through a town
+void PaintFloes(Scene& P);       // ice adrift
+void PaintHighView(Scene& P);    // a fjord from a ledge high above
+void PaintStoneGarden(Scene& P); // raked sand and stones
+void PaintLotus(Scene& P);       // leaves and flowers close by
+
+// compositions_heights.cpp
+void PaintSummit(Scene& P);     // a single summit over clouds
+void PaintSpires(Scene& P);     // needles of rock
+void PaintFogValleys(Scene& P); // ridge behind ridge, fog between
+void PaintSlope(Scene& P);      // a slope runs down across the picture
+void PaintTarn(Scene& P);       // a lake under a wall of peaks
+void PaintButtes(Scene& P);     // towers of red stone
+void PaintChasm(Scene& P);      // a river deep between steps of rock
+void PaintGreatDune(Scene& P);  // one dune with a winding crest
+void PaintViaduct(Scene& P);    // a bridge of many arches
+void PaintSunDisc(Scene& P);    // a building before a huge sun or moon
+void PaintPerch(Scene& P);      // a house on top of a pillar
+void PaintTeaHills(Scene& P);   // round hills combed by rows of tea
+
+// compositions_places.cpp
+void PaintPatchwork(Scene& P);   // hill over hill of fields
+void PaintClearing(Scene& P);    // a house among firs
+void PaintPoplars(Scene& P);     // a row of trees along a river
+void PaintCulms(Scene& P);       // a view between near bamboo
+void PaintBlossomHill(Scene& P); // a hill of crowns in bloom
+void PaintVeranda(Scene& P);     // a garden seen from a dark room
+void PaintAlley(Scene& P);       // houses up a stair
+void PaintGreatBridge(Scene& P); // a bridge fills the picture
+void PaintCamp(Scene& P);        // tents around a fire
+void PaintRooftops(Scene& P);    // over the roofs of a town
+void PaintGateFrame(Scene& P);   // a view through a near gate
+void PaintFrostField(Scene& P);  // a lone house in snow

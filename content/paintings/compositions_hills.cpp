@@ -12,14 +12,14 @@ static float CrestAtX(const std::vector<float>& Crest, float X)
 
 void PaintCloudPeaks(Scene& P)
 {
-    const float H = Any(P.C, 150, 250);
+    const float H = Vary(P, 109, 279);
     PaintSky(P, H);
     PaintCloudSea(P, H, Height);
     for (int I = 0; I < 4; ++I) {
         HillLook Peak;
         Peak.Kind = P.Seed % 3 == 0 ? Hill::Karst : Hill::Alpine;
         Peak.Foot = H + 20 + 52 * float(I);
-        Peak.Top = Peak.Foot - Any(P.C, 80, 150) - 14 * float(I);
+        Peak.Top = Peak.Foot - Any(P.C, 150, 230) - 14 * float(I);
         Peak.Centre = Any(P.C, 0, 720), Peak.Spread = Any(P.C, 90, 170) + 24 * float(I);
         Peak.Grain = Any(P.C, 90, 170), Peak.Far = 1.5f - 0.4f * float(I);
         Peak.Local = RockColour(P), Peak.Snow = P.Snow ? 1.0f : 0.35f,
@@ -56,7 +56,7 @@ void PaintCloudPeaks(Scene& P)
 
 void PaintPillars(Scene& P)
 {
-    const float H = Any(P.C, 230, 330);
+    const float H = Vary(P, 189, 359);
     PaintSky(P, H);
     for (int I = 0; I < 4; ++I) {
         const float T = float(I) / 3;
@@ -93,7 +93,7 @@ void PaintPillars(Scene& P)
 
 void PaintCone(Scene& P)
 {
-    const float H = Any(P.C, 200, 270);
+    const float H = Vary(P, 170, 291);
     PaintSky(P, H);
     HillLook Cone;
     Cone.Kind = Hill::Cone;
@@ -131,7 +131,7 @@ void PaintCone(Scene& P)
 
 void PaintAlps(Scene& P)
 {
-    const float H = Any(P.C, 210, 270);
+    const float H = Vary(P, 183, 289);
     PaintSky(P, H);
     HillLook Wall;
     Wall.Kind = Hill::Alpine;
@@ -170,7 +170,7 @@ void PaintAlps(Scene& P)
 
 void PaintCrown(Scene& P)
 {
-    const float H = Any(P.C, 260, 320);
+    const float H = Vary(P, 233, 339);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 3, Any(P.C, 90, 170), H, P.Snow ? 0.8f : 0.2f,
            0.5f);
@@ -203,7 +203,7 @@ void PaintCrown(Scene& P)
 
 void PaintGorge(Scene& P)
 {
-    const float H = Any(P.C, 200, 260);
+    const float H = Vary(P, 173, 279);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, 130, H + 30, P.Snow ? 0.9f : 0.25f, 0.4f);
     PaintMist(P, H + 50, 60, 0.8f);
@@ -259,7 +259,7 @@ void PaintGorge(Scene& P)
 
 void PaintWall(Scene& P)
 {
-    const float H = Any(P.C, 190, 250);
+    const float H = Vary(P, 163, 269);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, 110, H, P.Snow ? 0.8f : 0.1f, 0.4f);
     PaintMist(P, H - 10, 22, 0.5f);
@@ -312,10 +312,17 @@ void PaintWall(Scene& P)
 
 void PaintCliffside(Scene& P)
 {
-    const float H = Any(P.C, 250, 310);
+    const float H = Vary(P, 223, 329);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 3, 150, H, P.Snow ? 1.1f : 0.5f, 0.3f);
     PaintMist(P, H, 30, 0.6f);
+    PaintMeadow(P, nullptr, H + 4, GroundColour(P), WoodColour(P), 1);
+    const Mask River =
+        Along({{520, H + 10}, {640, H + 30}, {480, H + 70}, {600, Height + 20}}, 2, 40);
+    PaintWater(P, &River, H + 8, 0.4f, 0.2f);
+    for (int I = 0; I < 30; ++I)
+        PaintTree(P, I % 2 ? Tree::Fir : SeasonTree(P), Any(P.C, 330, 730), H + Any(P.C, 14, 120),
+                  Any(P.C, 14, 34), 0.7f);
     HillLook Rocks;
     Rocks.Kind = Hill::Cliff;
     Rocks.Foot = 440, Rocks.Top = Any(P.C, -60, 10), Rocks.Centre = -10,
@@ -353,7 +360,7 @@ void PaintCliffside(Scene& P)
 
 void PaintTerraces(Scene& P)
 {
-    const float H = Any(P.C, 90, 150);
+    const float H = Vary(P, 63, 169);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 3, Any(P.C, 60, 110), H + 8, P.Snow ? 0.6f : 0, 0.7f);
     PaintMist(P, H + 4, 20, 0.5f);
@@ -429,7 +436,7 @@ void PaintTerraces(Scene& P)
 
 void PaintCanyon(Scene& P)
 {
-    const float H = Any(P.C, 180, 250);
+    const float H = Vary(P, 150, 271);
     PaintSky(P, H);
     static constexpr std::uint32_t Reds[] = {0xc8704c, 0xd89060, 0xb86454, 0xd0a070};
     const Rgb Red = Hex(Reds[P.Seed % 4]);
@@ -487,7 +494,7 @@ void PaintCanyon(Scene& P)
 
 void PaintDunes(Scene& P)
 {
-    const float H = Any(P.C, 130, 210);
+    const float H = Vary(P, 96, 234);
     PaintSky(P, H);
     static constexpr std::uint32_t Sands[] = {0xf0c890, 0xf4d8b0, 0xe8a870, 0xf0dcc0};
     const Rgb Sand = Hex(Sands[P.Seed % 4]);
@@ -519,7 +526,7 @@ void PaintDunes(Scene& P)
 
 void PaintVolcano(Scene& P)
 {
-    const float H = Any(P.C, 230, 290);
+    const float H = Vary(P, 203, 309);
     PaintSky(P, H);
     HillLook Cone;
     Cone.Kind = Hill::Cone;

@@ -7,7 +7,7 @@
 
 void PaintWideSky(Scene& P)
 {
-    const float H = Any(P.C, 315, 355);
+    const float H = Vary(P, 295, 369);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 18, 40), H + 1, P.Snow ? 0.6f : 0, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
@@ -30,7 +30,7 @@ void PaintWideSky(Scene& P)
 
 void PaintOneTree(Scene& P)
 {
-    const float H = Any(P.C, 230, 290);
+    const float H = Vary(P, 203, 309);
     PaintSky(P, H);
     Ranges(P, P.Seed % 3 ? Hill::Soft : Hill::Alpine, 2, Any(P.C, 50, 110), H + 4,
            P.Snow ? 0.8f : 0.2f, 0.4f);
@@ -66,7 +66,7 @@ void PaintOneTree(Scene& P)
 
 void PaintFields(Scene& P)
 {
-    const float H = Any(P.C, 130, 220);
+    const float H = Vary(P, 92, 246);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 3, Any(P.C, 50, 100), H + 4, P.Snow ? 0.6f : 0, 0.6f);
     PaintMist(P, H, 12, 0.4f);
@@ -91,7 +91,7 @@ void PaintFields(Scene& P)
 
 void PaintHollow(Scene& P)
 {
-    const float H = Any(P.C, 90, 150);
+    const float H = Vary(P, 63, 169);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 3, Any(P.C, 60, 110), H + 14,
            P.Snow ? 1.0f : 0.2f, 0.7f);
@@ -125,7 +125,7 @@ void PaintHollow(Scene& P)
 
 void PaintForest(Scene& P)
 {
-    const float H = Any(P.C, 230, 280);
+    const float H = Vary(P, 206, 296);
     PaintSky(P, H);
     P.SunX = Any(P.C, 250, 470), P.SunY = Any(P.C, 60, 130);
     // deep green air between the trunks
@@ -180,7 +180,7 @@ void PaintForest(Scene& P)
 
 void PaintBirches(Scene& P)
 {
-    const float H = Any(P.C, 220, 290);
+    const float H = Vary(P, 190, 311);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 3, Any(P.C, 60, 130), H, P.Snow ? 0.9f : 0.3f,
            0.7f);
@@ -234,7 +234,7 @@ void PaintBirches(Scene& P)
 
 void PaintGrove(Scene& P)
 {
-    const float H = Any(P.C, 270, 320);
+    const float H = Vary(P, 246, 336);
     PaintSky(P, H);
     P.SunX = Any(P.C, 280, 460), P.SunY = 90;
     const Rgb Air = Mix(Hex(P.L->Haze), Lit(P, Hex(0x88b058), 0.7f, 0.2f), 0.45f);
@@ -267,7 +267,7 @@ void PaintGrove(Scene& P)
 
 void PaintAvenue(Scene& P)
 {
-    const float H = Any(P.C, 200, 250), X = Any(P.C, 300, 420);
+    const float H = Vary(P, 176, 266), X = Any(P.C, 300, 420);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 40, 80), H + 2, P.Snow ? 0.6f : 0, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
@@ -309,7 +309,7 @@ void PaintAvenue(Scene& P)
 
 void PaintStairs(Scene& P)
 {
-    const float H = Any(P.C, 120, 170), X = Any(P.C, 320, 400);
+    const float H = Vary(P, 96, 186), X = Any(P.C, 320, 400);
     PaintSky(P, H);
     P.SunX = X + Any(P.C, -60, 60);
     Ranges(P, Hill::Soft, 2, 70, H + 30, P.Snow ? 0.7f : 0, 0.6f);
@@ -366,7 +366,7 @@ void PaintStairs(Scene& P)
 
 void PaintBranch(Scene& P)
 {
-    const float H = Any(P.C, 290, 380);
+    const float H = Vary(P, 252, 406);
     PaintSky(P, H);
     Ranges(P, P.Seed % 3 == 0 ? Hill::Karst : Hill::Soft, 2 + AnyOf(P.C, 2), Any(P.C, 60, 150), H,
            P.Snow ? 0.7f : 0, 0);
@@ -402,7 +402,7 @@ void PaintBranch(Scene& P)
 
 void PaintMoonGate(Scene& P)
 {
-    const float H = Any(P.C, 170, 230);
+    const float H = Vary(P, 143, 249);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Karst, 2, Any(P.C, 60, 110), H, P.Snow ? 0.6f : 0,
            0.6f);
@@ -471,7 +471,7 @@ void PaintMoonGate(Scene& P)
 
 void PaintStreet(Scene& P)
 {
-    const float H = Any(P.C, 190, 235), X = Any(P.C, 300, 420);
+    const float H = Vary(P, 168, 250), X = Any(P.C, 300, 420);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 2, Any(P.C, 70, 110), H, P.Snow ? 0.9f : 0.2f,
            0.5f);
@@ -578,7 +578,7 @@ void PaintStreet(Scene& P)
 
 void PaintOasis(Scene& P)
 {
-    const float H = Any(P.C, 170, 230);
+    const float H = Vary(P, 143, 249);
     PaintSky(P, H);
     const Rgb Sand = P.Seed % 2 ? Hex(0xf0cc94) : Hex(0xe8b880);
     for (int I = 0; I < 3; ++I) {
@@ -612,7 +612,7 @@ void PaintOasis(Scene& P)
 
 void PaintSteppe(Scene& P)
 {
-    const float H = Any(P.C, 190, 260);
+    const float H = Vary(P, 160, 281);
     PaintSky(P, H);
     HillLook Wall;
     Wall.Kind = Hill::Alpine;

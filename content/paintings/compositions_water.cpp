@@ -37,7 +37,7 @@ static void NearBank(Scene& P, float From, float To, float Tall)
 
 void PaintLake(Scene& P)
 {
-    const float H = Any(P.C, 165, 245);
+    const float H = Vary(P, 131, 269);
     PaintSky(P, H);
     const Hill Kind = P.Seed % 3 == 0 ? Hill::Alpine : P.Seed % 3 == 1 ? Hill::Soft : Hill::Cliff;
     Ranges(P, Kind, 3 + AnyOf(P.C, 2), Any(P.C, 90, 170), H, P.Snow ? 0.9f : 0.35f, 0.6f);
@@ -94,7 +94,7 @@ void PaintOpenSea(Scene& P)
 
 void PaintCoast(Scene& P)
 {
-    const float H = Any(P.C, 130, 190);
+    const float H = Vary(P, 103, 209);
     PaintSky(P, H);
     PaintSea(P, H, 0.9f, P.Seed % 2 ? Hex(0x205070) : Hex(0x307878));
     PaintGlitter(P, H + 2, H + 150, 0.5f);
@@ -102,7 +102,7 @@ void PaintCoast(Scene& P)
         HillLook Look;
         Look.Kind = Hill::Cliff;
         Look.Foot = H + 8 + 48 * float(I);
-        Look.Top = H - Any(P.C, 50, 90) + 12 * float(I);
+        Look.Top = H - Any(P.C, 80, 140) + 6 * float(I);
         Look.Grain = 170;
         Look.Far = 1.2f - 0.5f * float(I);
         Look.Local = Mix(RockColour(P), Hex(0xc8b8a0), 0.3f);
@@ -138,7 +138,7 @@ void PaintCoast(Scene& P)
 
 void PaintHarbour(Scene& P)
 {
-    const float H = Any(P.C, 175, 225);
+    const float H = Vary(P, 152, 241);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 2, Any(P.C, 70, 120), H, P.Snow ? 0.8f : 0,
            0.6f);
@@ -165,7 +165,7 @@ void PaintHarbour(Scene& P)
 
 void PaintRiver(Scene& P)
 {
-    const float H = Any(P.C, 110, 180);
+    const float H = Vary(P, 80, 201);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 3, Any(P.C, 70, 130), H + 4,
            P.Snow ? 0.9f : 0.2f, 0.6f);
@@ -201,7 +201,7 @@ void PaintRiver(Scene& P)
 
 void PaintFalls(Scene& P)
 {
-    const float H = Any(P.C, 110, 170), X = Any(P.C, 280, 440);
+    const float H = Vary(P, 83, 189), X = Any(P.C, 280, 440);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 1, 110, H + 30, P.Snow ? 0.8f : 0.3f, 0);
     const float Lip = Any(P.C, 90, 140), Foot = Any(P.C, 285, 325), Breadth = Any(P.C, 26, 90);
@@ -253,7 +253,7 @@ void PaintFalls(Scene& P)
 
 void PaintLagoon(Scene& P)
 {
-    const float H = Any(P.C, 150, 230);
+    const float H = Vary(P, 116, 254);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Karst : Hill::Soft, 2, Any(P.C, 50, 110), H + 1, 0, 0.7f);
     PaintSea(P, H, 0.35f, Hex(0x30a0a0));
@@ -300,7 +300,7 @@ void PaintStillness(Scene& P)
 
 void PaintMarsh(Scene& P)
 {
-    const float H = Any(P.C, 240, 300);
+    const float H = Vary(P, 213, 319);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 24, 60), H + 1, P.Snow ? 0.5f : 0, 0.5f);
     PaintMist(P, H - 2, 12, 0.7f);
@@ -328,7 +328,7 @@ void PaintMarsh(Scene& P)
 
 void PaintPond(Scene& P)
 {
-    const float H = Any(P.C, 110, 160);
+    const float H = Vary(P, 86, 176);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 50, 90), H + 10, P.Snow ? 0.6f : 0, 0.7f);
     PaintMist(P, H + 6, 16, 0.4f);
@@ -383,7 +383,7 @@ void PaintPond(Scene& P)
 
 void PaintIce(Scene& P)
 {
-    const float H = Any(P.C, 190, 250);
+    const float H = Vary(P, 163, 269);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, Any(P.C, 70, 130), H, 1.2f, 0.5f);
     for (int I = 0; I < 40; ++I)
@@ -416,7 +416,7 @@ void PaintIce(Scene& P)
 
 void PaintFjord(Scene& P)
 {
-    const float H = Any(P.C, 180, 240);
+    const float H = Vary(P, 153, 259);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 1, 110, H, 0.8f, 0);
     for (int I = 0; I < 4; ++I) {
@@ -444,7 +444,7 @@ void PaintFjord(Scene& P)
 
 void PaintAfloat(Scene& P)
 {
-    const float H = Any(P.C, 130, 190);
+    const float H = Vary(P, 103, 209);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 50, 100), H + 6, P.Snow ? 0.6f : 0, 0.5f);
     Village(P, -10, 730, H + 14, 32, 22, 0.5f);
@@ -488,7 +488,7 @@ void PaintAfloat(Scene& P)
 
 void PaintIslets(Scene& P)
 {
-    const float H = Any(P.C, 120, 200);
+    const float H = Vary(P, 86, 224);
     PaintSky(P, H);
     PaintSea(P, H, 0.25f, Hex(0x2c7470));
     for (int Row = 0; Row < 4; ++Row) {

@@ -70,7 +70,7 @@ void PaintSea(Scene& P, float Horizon, float Swell, Rgb Deep)
 {
     const std::uint32_t Seed = P.Seed + 720;
     Mask Covered(Width * Height, 0.0f);
-    const Rgb Dark = Lit(P, Deep, 0.15f, 0.05f),
+    const Rgb Dark = Lit(P, Deep, 0.45f, 0.1f),
               Bright = Lit(P, Mix(Deep, Hex(0x78c8b8), 0.5f), 0.8f, 0.05f);
     for (int Y = int(Horizon); Y < Height; ++Y) {
         const float Z = 60 / (float(Y) - Horizon + 3),

@@ -17,6 +17,25 @@ Rgb WoodColour(const Scene& P)
     return Mix(Hex(P.S->LeafMid), Hex(P.S->Grass), 0.4f);
 }
 
+// The summit that rules at U, one to a unit: how high its flank is, and how far to the side we are.
+struct Summit {
+    float Share, Offset;
+};
+
+static Summit SummitAt(float U, std::uint32_t Seed)
+{
+    Summit Best{0, 0};
+    for (int I = -2; I <= 2; ++I) {
+        const float Cell = std::floor(U) + float(I),
+                    Apex = Cell + 0.15f + 0.7f * Noise(Cell + 0.5f, 1.5f, Seed);
+        const float Tall = 0.35f + 0.65f * Noise(Cell + 0.5f, 7.5f, Seed), Off = U - Apex;
+        const float Steepness = (Off < 0 ? 0.7f : 1.0f) + 0.5f * Noise(Cell + 0.5f, 4.5f, Seed);
+        const float Share = Tall - std::fabs(Off) * Steepness * (1 - 0.25f * Clamp(std::fabs(Off)));
+        if (Share > Best.Share) Best = {Share, Off};
+    }
+    return Best;
+}
+
 // Share of the height, 0 to 1, that the crest reaches at X.
 static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_t Seed)
 {
@@ -24,10 +43,9 @@ static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_
     switch (Look.Kind) {
     case Hill::Soft:
         return 0.15f + 0.85f * Fbm(U * 0.8f, 0.3f, 4, Seed);
-    case Hill::Alpine: {
-        const float Bent = U * 0.62f + 0.16f * Fbm(U * 2.3f, 4, 3, Seed + 2);
-        return 0.1f + 0.62f * Ridged(Bent, 0.7f, 2, Seed) + 0.30f * Fbm(U * 3.1f, 2, 5, Seed + 1);
-    }
+    case Hill::Alpine:
+        return 0.06f + 0.78f * SummitAt(U, Seed).Share +
+               0.20f * (Fbm(U * 4.2f, 2, 5, Seed + 1) - 0.35f);
     case Hill::Karst: {
         const float Cell = std::floor(U), In = U - Cell;
         const float Tall = 0.3f + 0.7f * Noise(Cell * 1.7f + 0.5f, 3.3f, Seed);
@@ -42,10 +60,11 @@ static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_
     }
     case Hill::Dune: {
         const float Bent = U + 0.35f * Noise(U * 0.6f, 3, Seed), In = Bent - std::floor(Bent);
-        const float Tall = 0.45f + 0.55f * Noise(std::floor(Bent) + 0.5f, 5, Seed);
-        return 0.1f + Tall *
-                          (In < 0.68f ? Smooth(-0.25f, 0.70f, In) : 1 - Smooth(0.62f, 1.12f, In)) *
-                          0.9f;
+        const float Tall = 0.35f + 0.65f * Noise(std::floor(Bent) + 0.5f, 5.5f, Seed);
+        // a long windward slope and a short lee one, both hollow
+        const float Shape =
+            In < 0.66f ? std::pow(In / 0.66f, 1.5f) : std::pow((1 - In) / 0.34f, 1.25f);
+        return 0.1f + 0.85f * Tall * Shape + 0.25f * Noise(U * 0.8f, 9, Seed);
     }
     case Hill::Cone: {
         const float Off = std::fabs(X - Look.Centre) / Look.Grain;
@@ -65,25 +84,32 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
 {
     const std::uint32_t Seed = P.Seed + std::uint32_t(Look.Foot * 7 + Look.Top * 3);
     const float Rise = Look.Foot - Look.Top;
-    std::vector<float> Crest(Width);
+    std::vector<float> Crest(Width), Offsets(Width);
+    float Highest = 0.05f;
     for (int X = 0; X < Width; ++X) {
         float Share = CrestAt(P, Look, float(X) + 2000, Seed);
         if (Look.Kind == Hill::Cone) Share = CrestAt(P, Look, float(X), Seed);
+        if (Look.Kind == Hill::Alpine)
+            Offsets[std::size_t(X)] = SummitAt((float(X) + 2000) / Look.Grain, Seed).Offset;
         const float Off = (float(X) - Look.Centre) / Look.Spread;
         if (Look.Kind != Hill::Cone) Share *= std::exp(-Off * Off);
-        Crest[std::size_t(X)] = Look.Foot - Rise * Share;
+        Crest[std::size_t(X)] = Share;
+        Highest = std::max(Highest, Share);
     }
+    // the highest crest stands at Top, wherever chance has put it
+    const float Stretch = Look.Kind == Hill::Alpine || Look.Kind == Hill::Karst ? 1 / Highest : 1;
+    for (float& Y : Crest) Y = Look.Foot - Rise * Y * Stretch;
     const bool Steep = Look.Kind == Hill::Alpine || Look.Kind == Hill::Cone ||
                        Look.Kind == Hill::Karst || Look.Kind == Hill::Cliff;
     Mask Covered(Width * Height, 0.0f);
+    const Rgb Below = Mix(Lit(P, Look.Local, 0.45f, Look.Far), Hex(P.L->Haze), Look.Mist * 0.85f);
     const Rgb White = Hex(0xf4f8ff), Woods = WoodColour(P);
     for (int X = 0; X < Width; ++X) {
         const float Top = Crest[std::size_t(X)];
         const float Side = SunSide(P, float(X));
-        Rgb Colour;
         for (int Y = std::max(0, int(Top)); Y < Height; ++Y) {
             if (float(Y) > Look.Foot + 40 && Y > 0) { // nearer things will cover it
-                At(P.C, X, Y) = Colour;
+                At(P.C, X, Y) = Below;
                 continue;
             }
             const float Down = float(Y) - Top, FX = float(X), FY = float(Y);
@@ -96,19 +122,34 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
             };
             const float Slope = (Height2(-3) - Height2(3)) * (Steep ? 1.6f : 2.4f);
             float Shade = 0.50f + Side * -Slope - 0.10f * Clamp(Down / (Rise + 1));
-            if (Look.Kind == Hill::Dune) {
-                const float DX = Crest[std::size_t(std::min(X + 6, Width - 1))] -
-                                 Crest[std::size_t(std::max(X - 6, 0))];
-                Shade = 0.62f + Clamp(-Side * -DX / 12, -0.5f, 0.4f) * Smooth(Rise, 0, Down) +
-                        0.06f * std::sin(Down * 0.8f + 6 * Noise(FX / 60, FY / 30, Seed));
+            if (Look.Kind ==
+                Hill::Dune) { // the crest winds down the slope, light on one side of it
+                const float Wind =
+                    0.75f * Down + 22 * (Noise(Down / 36, FX / 400, Seed + 7) - 0.5f);
+                const auto CrestNear = [&](float Offset) {
+                    return Crest[std::size_t(std::clamp(int(FX + Wind + Offset), 0, Width - 1))];
+                };
+                const float Rise2 = (CrestNear(7) - CrestNear(-7)) / 13;
+                Shade = 0.58f +
+                        Clamp(Side * Rise2 * 1.2f, -0.46f, 0.42f) * Smooth(Rise * 1.4f, 0, Down) +
+                        0.05f * std::sin(Down * 0.8f + 6 * Noise(FX / 60, FY / 30, Seed));
             }
             if (Look.Kind == Hill::Mesa) // layers of stone
                 Shade += 0.22f * (Noise(FX / 160, FY / 3.2f, Seed + 9) - 0.5f) -
                          0.18f * Smooth(4, 0, Down);
-            if (Look.Kind == Hill::Cone)
-                Shade = 0.5f +
-                        0.42f * Side * (Side * (FX - Look.Centre) > 0 ? 1.0f : -1.0f) * Side -
-                        Slope * 0.4f;
+            if (Look.Kind == Hill::Cone) {
+                const float Rib = (FX - Look.Centre) / (10 + 0.5f * Down) +
+                                  1.6f * (Fbm(FX / 30, FY / 40, 3, Seed + 7) - 0.5f);
+                Shade =
+                    0.5f + 0.34f * Clamp(P.SunX > Look.Centre ? Rib : -Rib, -1, 1) - Slope * 0.5f;
+            }
+            if (Look.Kind == Hill::Alpine) { // lit and shaded flanks of each summit
+                const float Rib = Offsets[std::size_t(X)] +
+                                  (0.10f + 0.0016f * Down) * 2.4f *
+                                      (Fbm(FX / (Look.Grain * 0.22f), FY / 34, 3, Seed + 7) - 0.5f);
+                Shade = 0.52f + 0.34f * Clamp(Rib * (P.SunX > FX ? 16.0f : -16.0f), -1, 1) -
+                        Side * Slope * 0.7f;
+            }
             Rgb Local = Times(Look.Local, 0.88f + 0.24f * Fbm(FX / 26, FY / 14, 3, Seed + 2));
             if (Look.Trees > 0) {
                 const float Wooded = Smooth(0.62f - 0.4f * Look.Trees, 0.72f - 0.4f * Look.Trees,
@@ -125,7 +166,7 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
                 Local = Mix(Local, White, Cover * 0.94f);
                 Shade = Lerp(Shade, Clamp(0.28f + Shade * 0.72f), Cover);
             }
-            Colour = Lit(P, Local, Clamp(Shade), Look.Far);
+            Rgb Colour = Lit(P, Local, Clamp(Shade), Look.Far);
             const float Foot = Smooth(0.15f, 1.05f, Down / (Rise + 1));
             Colour = Mix(Colour, Hex(P.L->Haze), Look.Mist * Foot * 0.85f);
             Blend(P.C, X, Y, Colour, Clamp(FY + 1 - Top));

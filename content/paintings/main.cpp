@@ -8,19 +8,29 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
 constexpr int JpegQuality = 86;
 
-static QImage Paint(const PlanRow& Row)
+constexpr int VariantCount = 9; // places in the range that Vary hands out in turn
+
+float Vary(Scene& P, float Low, float High, int Step)
+{
+    return Lerp(Low, High, (float(P.Variant * Step % VariantCount) + Any(P.C)) / VariantCount);
+}
+
+static QImage Paint(const PlanRow& Row, int Variant)
 {
     Scene P;
     P.Plan = Row;
     P.C = BlankCanvas(std::uint64_t(Row.Number));
     P.L = FindLight(Row.Light);
     P.S = FindSeason(Row.Season);
-    P.Seed = std::uint32_t(Row.Number) * 7919;
+    P.Variant = Variant;
+    // noise differs by number, choices (the remainders of Seed) by variant
+    P.Seed = std::uint32_t(Row.Number) * 2520 + std::uint32_t(Variant);
     P.Night = P.L->Kind == 'n';
     P.Ink = P.L->Kind == 'i';
     P.Snow = Row.Season == "winter";
@@ -56,11 +66,16 @@ int main(int Count, char** Words)
         return 1;
     }
     for (int Number = First; Number <= Last; ++Number) {
+        const PlanRow& Row = Plan[std::size_t(Number - 1)];
+        const int Variant =
+            int(std::count_if(Plan.begin(), Plan.begin() + Number - 1, [&](const PlanRow& Other) {
+                return Other.Composition == Row.Composition;
+            }));
         const QString Path = Out.filePath(QString::asprintf("PH%04d", Number));
         QImageWriter Writer(Path, "jpg");
         Writer.setQuality(JpegQuality);
         Writer.setOptimizedWrite(true);
-        if (!Writer.write(Paint(Plan[std::size_t(Number - 1)]))) {
+        if (!Writer.write(Paint(Row, Variant))) {
             std::fprintf(stderr, "make-paintings: cannot write %s: %s\n", qPrintable(Path),
                          qPrintable(Writer.errorString()));
             return 1;

@@ -39,7 +39,8 @@ struct Scene {
     const Seasons* S = nullptr;
     float Horizon = 200;         // y
     float SunX = 500, SunY = 90; // of the light, seen or not
-    std::uint32_t Seed = 0;      // for noise
+    int Variant = 0;        // how many pictures of this composition stand before it in the plan
+    std::uint32_t Seed = 0; // for noise
     bool Night = false, Ink = false, Snow = false;
 };
 
@@ -47,6 +48,10 @@ struct Scene {
 std::vector<PlanRow> ReadPlan(const std::string& Path);
 const Light* FindLight(const std::string& Name);    // nullptr if there is none
 const Seasons* FindSeason(const std::string& Name); // nullptr if there is none
+
+// main.cpp
+// A number between Low and High that the pictures of one composition spread evenly between them.
+float Vary(Scene& P, float Low, float High, int Step = 4);
 
 // light.cpp: colours as they look in the light of the scene
 Rgb Sky(const Scene& P, float Up);                          // 0 horizon to 1 zenith

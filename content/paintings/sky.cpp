@@ -61,31 +61,43 @@ static float CloudAt(const Scene& P, float X, float Y, float Up)
     return 0;
 }
 
-static void PaintStars(Scene& P, float Horizon)
+// The band of the Milky Way across the sky.
+struct StarBand {
+    float Middle, Tilt; // x at half the height of the sky, and how far it leans
+};
+
+static float BandX(const StarBand& Band, float Y, float Horizon)
 {
-    const float Tilt = Any(P.C, 0.3f, 1.2f) * (AnyOf(P.C, 2) ? 1.0f : -1.0f),
-                Band = Any(P.C, 160, 560);
-    const bool Milky = P.Plan.Sky == "clear" || P.Plan.Sky == "cirrus";
-    if (Milky && P.L->OrbSize == 0) {
-        for (int Y = 0; Y < int(Horizon); ++Y)
-            for (int X = 0; X < Width; ++X) {
-                const float Off = (float(X) - Band - (Horizon / 2 - float(Y)) * Tilt) /
-                                  (1 + std::fabs(Tilt)) / 62;
-                const float Cloudy = Fbm(float(X) / 50, float(Y) / 50, 4, P.Seed + 77);
-                const float Rift =
-                    Smooth(0.3f, 0.0f, std::fabs(Off + (Cloudy - 0.5f) * 1.4f)) * 0.55f;
-                const float Shine = std::exp(-Off * Off) * (Cloudy - Rift) * 0.5f;
-                Blend(P.C, X, Y, Mix(Hex(0xc8d4f4), Hex(0xf4d8d0), Cloudy), Clamp(Shine));
-            }
-    }
-    for (int I = 0; I < 420; ++I) {
+    return Band.Middle + (Horizon / 2 - Y) * Band.Tilt;
+}
+
+static void PaintStarBand(Scene& P, const StarBand& Band, float Horizon)
+{
+    for (int Y = 0; Y < int(Horizon); ++Y)
+        for (int X = 0; X < Width; ++X) {
+            const float Off =
+                (float(X) - BandX(Band, float(Y), Horizon)) / (1 + std::fabs(Band.Tilt)) / 62;
+            const float Cloudy = Fbm(float(X) / 50, float(Y) / 50, 4, P.Seed + 77);
+            const float Rift = Smooth(0.3f, 0.0f, std::fabs(Off + (Cloudy - 0.5f) * 1.4f)) * 0.55f;
+            const float Shine = std::exp(-Off * Off) * (Cloudy - Rift) * 0.6f;
+            Blend(P.C, X, Y, Mix(Hex(0xc8d4f4), Hex(0xf4d8d0), Cloudy), Clamp(Shine));
+        }
+}
+
+static void PaintStars(Scene& P, const StarBand& Band, bool Banded, float Horizon)
+{
+    for (int I = 0; I < 380; ++I) {
         const float Y = Any(P.C) * Horizon * 0.97f, Far = Any(P.C);
         float X = Any(P.C, 0, Width);
-        if (Milky && I % 2) X = Band + (Horizon / 2 - Y) * Tilt + AnyBell(P.C) * 90;
-        const float Size = Far > 0.985f ? 2.6f : Far > 0.9f ? 1.7f : 1.1f;
+        if (Banded && I % 2) X = BandX(Band, Y, Horizon) + AnyBell(P.C) * 90;
+        const Rgb Behind = At(P.C, int(X), int(Y));
+        // clouds hide the stars
+        if (Brightness(Behind) > Brightness(Sky(P, 1 - Y / Horizon)) + 0.07f && !(Banded && I % 2))
+            continue;
+        const float Size = Far > 0.985f ? 2.1f : Far > 0.9f ? 1.4f : 1.0f;
         const Rgb Colour = Mix(Hex(0xbcd0ff), Hex(0xffe8c4), Any(P.C));
-        const float Alpha = (0.25f + 0.75f * Far * Far) * Smooth(1.0f, 0.75f, Y / Horizon);
-        if (Size > 2) SoftDab(P.C, X, Y, 7, 7, Colour, 0.35f);
+        const float Alpha = (0.2f + 0.8f * Far * Far) * Smooth(1.0f, 0.7f, Y / Horizon);
+        if (Size > 2) SoftDab(P.C, X, Y, 6, 6, Colour, 0.4f);
         Dab(P.C, X, Y, Size, Size, 0, Colour, Alpha);
     }
 }
@@ -310,10 +322,13 @@ void PaintSky(Scene& P, float Horizon)
             P.C.Flow[std::size_t(Y * Width + X)] = Tilt + Sway * 2.2f;
         }
     }
-    if (P.Night && P.Plan.Sky != "storm" && P.Plan.Sky != "stratus") PaintStars(P, Horizon);
+    const StarBand Band{Any(P.C, 160, 560), Any(P.C, 0.3f, 1.2f) * (AnyOf(P.C, 2) ? 1.0f : -1.0f)};
+    const bool Banded =
+        P.Night && L.OrbSize == 0 && (P.Plan.Sky == "clear" || P.Plan.Sky == "cirrus");
+    if (Banded) PaintStarBand(P, Band, Horizon);
     if (P.Plan.Sky == "aurora") PaintAurora(P, Horizon);
     const bool Clouded = P.Plan.Sky != "clear" && P.Plan.Sky != "aurora";
-    // The sky's strokes come before the fine things of it: stars and moon would be lost.
+    // Stars and moon come after the strokes of the sky: they would be lost in them.
     if (!P.Night) PaintOrb(P);
     if (Clouded) {
         const Rgb Bright = Hex(L.CloudLit), Dark = Hex(L.CloudDark);
@@ -342,14 +357,7 @@ void PaintSky(Scene& P, float Horizon)
         P.C, nullptr,
         {{11, 7, -1, 0.035f}, {5.5f, 7, P.Night ? 0.05f : 0.06f, 0.03f}, {2.6f, 6, 0.09f, 0.02f}});
     if (P.Night) {
-        if (P.Plan.Sky != "storm" && P.Plan.Sky != "stratus")
-            for (int I = 0; I < 90; ++I) {
-                const float X = Any(P.C, 0, Width), Y = Any(P.C) * Horizon * 0.9f,
-                            S = Any(P.C, 1, 2);
-                const Rgb Px = At(P.C, int(X), int(Y));
-                if (Brightness(Px) < 0.5f)
-                    Dab(P.C, X, Y, S, S, 0, Hex(0xfff8e8), Any(P.C, 0.3f, 0.9f));
-            }
+        if (P.Plan.Sky != "storm" && P.Plan.Sky != "stratus") PaintStars(P, Band, Banded, Horizon);
         PaintOrb(P);
     }
     if (P.Plan.Weather == "rainbow") PaintRainbow(P);

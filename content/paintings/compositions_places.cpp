@@ -1,0 +1,497 @@
+// compositions_places.cpp: more pictures of gardens, villages and roads.
+
+#include "compositions.h"
+
+#include <algorithm>
+#include <cmath>
+
+void PaintPatchwork(Scene& P)
+{
+    const float H = Vary(P, 110, 170);
+    PaintSky(P, H);
+    Ranges(P, Hill::Soft, 2, 60, H + 4, P.Snow ? 0.6f : 0, 0.6f);
+    static constexpr std::uint32_t Crops[] = {0xe8cc50, 0x7cac48, 0xa884c8,
+                                              0xc8a058, 0x5c9c50, 0xd87060};
+    for (int I = 0; I < 7; ++I) { // hill over hill, each under another crop
+        const float T = float(I) / 6, Y = H + 14 + 60 * T + 170 * T * T, Swing = 16 + 30 * T,
+                    Tilt = (I % 2 ? 1.0f : -1.0f) * (16 + 50 * T);
+        const Mask Area = Below({{-20, Y + Tilt + Any(P.C, -Swing, Swing)},
+                                 {200, Y + Tilt * 0.4f - Swing * 0.5f},
+                                 {460, Y - Tilt * 0.4f + Any(P.C, -Swing, Swing)},
+                                 {740, Y - Tilt}});
+        const Rgb Crop = P.Snow ? Mix(Hex(0xeef2f8), Hex(0xc0d0e0), 0.3f * float(I % 3))
+                                : Hex(Crops[(std::size_t(I) * 5 + P.Seed) % 6]);
+        if (I % 3 == 2)
+            PaintMeadow(P, &Area, H - 30, Crop, Mix(Crop, GroundColour(P), 0.4f), 0.6f);
+        else
+            PaintRows(P, &Area, Y - 60 - 60 * T, Any(P.C, -200, 920), Any(P.C, 0.13f, 0.24f), Crop,
+                      P.Snow ? Hex(0xb0bccc) : Times(Crop, 0.6f));
+        for (int K = 0; K < 9 - I; ++K)
+            PaintTree(P, K % 3 == 0 ? Tree::Cypress : SeasonTree(P), Any(P.C, 0, 720),
+                      Y + Any(P.C, 0, Swing), (16 + 50 * T) * Any(P.C, 0.7f, 1.2f), 0.9f * (1 - T));
+        if (I == 3)
+            PaintMotif(P, P.Plan.Motif, Any(P.C, 200, 520), Y + 4, 88, 0.35f),
+                Village(P, 130, 330, Y + 10, 22, 3, 0.4f);
+    }
+    PaintLife(P, 396);
+}
+
+void PaintClearing(Scene& P)
+{
+    const float H = Vary(P, 180, 230);
+    PaintSky(P, H);
+    Ranges(P, Hill::Alpine, 1, 90, H, P.Snow ? 1.0f : 0.4f, 0);
+    PaintMist(P, H - 10, 24, 0.5f);
+    PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
+    for (int Row = 0; Row < 4; ++Row) {
+        const float T = float(Row) / 3, Gap = 60 + 130 * T;
+        for (int I = 0; I < 13; ++I) {
+            const float Side = I % 2 ? 1.0f : -1.0f;
+            PaintTree(P, (I + Row) % 4 ? Tree::Fir : SeasonTree(P),
+                      360 + Side * (Gap + Any(P.C, 0, 300)), H + 6 + 110 * T * T + Any(P.C, 0, 12),
+                      90 + 190 * T * Any(P.C, 0.8f, 1.2f), 0.8f * (1 - T));
+        }
+        if (Row == 0)
+            PaintMotif(P, P.Plan.Motif == "none" ? "teahouse" : P.Plan.Motif,
+                       360 + Any(P.C, -40, 40), H + 40, 110, 0.3f);
+    }
+    if (P.Seed % 2) {
+        const Mask Pool = MaskOf([&] {
+            QPainterPath E;
+            E.addEllipse(QPointF(370, H + 100), 150, 26);
+            return E;
+        }());
+        PaintWater(P, &Pool, H + 74, 0.3f, 0.3f);
+    } else {
+        PathWay(P, {{360, H + 44}, {400, H + 90}, {330, Height + 20}}, 5, 50,
+                P.Snow ? Hex(0xd0dae8) : Hex(0xc8ac7c));
+    }
+    if (!P.Snow) Flowers(P, 100, 620, H + 50, Height, 1500, Hex(P.S->Blossom));
+    PaintLife(P, H + 150);
+    Grasses(P, 0, 720, Height + 6, 34, 160, GroundColour(P), 0);
+}
+
+void PaintPoplars(Scene& P)
+{
+    const float H = Vary(P, 230, 275);
+    PaintSky(P, H);
+    Ranges(P, Hill::Soft, 1, 36, H, P.Snow ? 0.6f : 0, 0.4f);
+    PaintMotif(P, P.Plan.Motif, Any(P.C, 90, 240), H + 4, 70, 0.8f);
+    PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
+    const int Count = 9;
+    for (int I = 0; I < Count; ++I) { // a row that comes towards us in a curve
+        const float T = float(I) / (Count - 1), X = 330 + 90 * std::sin(T * 3.6f) + 330 * T * T,
+                    Tall = 60 + 290 * T;
+        const Tree Kind = P.Plan.Season == "autumn" ? Tree::Birch
+                          : P.Snow && P.Seed % 2    ? Tree::Bare
+                                                    : Tree::Cypress;
+        PaintTree(P, Kind, X, H + 6 + 16 * T, Tall, 0.8f * (1 - T));
+    }
+    PaintWater(P, nullptr, H + 24, 0.55f, 0.25f);
+    const Mask Bank = Below({{-20, 340}, {120, 372}, {260, 412}, {330, 440}});
+    PaintMeadow(P, &Bank, 310, GroundColour(P), GroundColour(P), 1);
+    Boat(P, "row", 240, 366, 96, 0.05f);
+    Reeds(P, 0, 200, Height + 10, 90, 60, 0);
+    if (P.L->OrbSize > 0) PaintGlitter(P, H + 26, Height, 0.5f);
+    PaintLife(P, 388);
+}
+
+void PaintCulms(Scene& P)
+{
+    const float H = Vary(P, 220, 300);
+    PaintSky(P, H);
+    Ranges(P, P.Seed % 2 ? Hill::Karst : Hill::Soft, 3, 130, H, P.Snow ? 0.6f : 0, 0.6f);
+    PaintMist(P, H - 20, 40, 0.7f);
+    PaintMotif(P, P.Plan.Motif, Any(P.C, 330, 450), H + 4, 84, 0.7f);
+    PaintWater(P, nullptr, H + 6, 0.35f, 0.2f);
+    Boat(P, "raft", Any(P.C, 330, 450), H + 60, 70, 0.15f);
+    for (int I = 0; I < 7; ++I) {
+        const float X = I < 5 ? -10 + 42 * float(I) + Any(P.C, -12, 12) : 640 + 60 * float(I - 5);
+        PaintTree(P, Tree::Bamboo, X, Height + 40, 560 + Any(P.C, 0, 200), 0);
+    }
+    Overhang(P, Tree::Bamboo, 330);
+    for (int I = 0; I < 4; ++I)
+        Bush(P, I % 2 ? Any(P.C, -10, 150) : Any(P.C, 600, 730), Height + 4, Any(P.C, 24, 44), 0);
+    PaintLife(P, H + 50);
+}
+
+void PaintBlossomHill(Scene& P)
+{
+    const float H = Vary(P, 330, 370);
+    PaintSky(P, H);
+    const Tree Kind = P.Plan.Season == "spring"   ? Tree::Cherry
+                      : P.Plan.Season == "autumn" ? Tree::Maple
+                      : P.Snow                    ? Tree::Pine
+                                                  : Tree::Round;
+    const float Top = Vary(P, 120, 170, 3), X = Any(P.C, 280, 440);
+    Ranges(P, Hill::Soft, 1, 130, H, P.Snow ? 0.6f : 0, 0.3f);
+    PaintMist(P, H - 80, 50, 0.5f);
+    const Mask Hillock = Below({{-20, Top + 170},
+                                {X - 200, Top + 70},
+                                {X, Top + 10},
+                                {X + 200, Top + 70},
+                                {740, Top + 170}});
+    PaintMeadow(P, &Hillock, Top - 30, GroundColour(P), GroundColour(P), 1);
+    PaintMotif(P, P.Plan.Motif == "none" ? "pagoda" : P.Plan.Motif, X, Top + 30, 120, 0.35f);
+    for (int Row = 0; Row < 6; ++Row) { // a whole hill of crowns
+        const float T = float(Row) / 5, Y = Top + 40 + 250 * T;
+        for (int I = 0; I < 9 - Row; ++I) {
+            const float TX =
+                X + (float(I) / float(8 - Row) - 0.5f) * (300 + 560 * T) + Any(P.C, -30, 30);
+            if (Row > 1 && std::fabs(TX - X - 26 * std::sin(T * 7)) < 34 + 30 * T) continue;
+            PaintTree(P, (I + Row) % 5 == 0 ? SeasonTree(P) : Kind, TX,
+                      Y + Any(P.C, -8, 8) + 0.0004f * (TX - X) * (TX - X), 56 + 90 * T,
+                      0.5f * (1 - T));
+        }
+    }
+    for (int I = 0; I < 16; ++I) { // the steps between them
+        const float T = float(I) / 15, Y = Top + 60 + (Height - Top - 50) * T,
+                    SX = X + 26 * std::sin(T * 5.4f), Half = 8 + 30 * T;
+        Stroke(P.C, {{SX - Half, Y}, {SX + Half, Y}}, 1.5f + 4 * T, 1.5f + 4 * T,
+               Lit(P, P.Snow ? Hex(0xe8eef4) : Times(Hex(0xc0b4a0), Any(P.C, 0.85f, 1.1f)), 0.7f,
+                   0.3f * (1 - T)),
+               0.95f);
+        Stroke(P.C, {{SX - Half, Y + 2 + 4 * T}, {SX + Half, Y + 2 + 4 * T}}, 0.6f + T, 0.6f + T,
+               Lit(P, Hex(0x605850), 0.2f, 0.3f * (1 - T)), 0.8f);
+    }
+    PaintLife(P, 396);
+}
+
+void PaintVeranda(Scene& P)
+{
+    const float H = Vary(P, 150, 210);
+    PaintSky(P, H);
+    Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 3, 90, H, P.Snow ? 0.8f : 0.2f, 0.6f);
+    PaintMist(P, H - 4, 18, 0.5f);
+    PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 0.9f);
+    for (int I = 0; I < 12; ++I)
+        PaintTree(P, SeasonTree(P), Any(P.C, 60, 660), H + Any(P.C, 8, 40), Any(P.C, 50, 120),
+                  0.4f);
+    PaintMotif(P, P.Plan.Motif, Any(P.C, 250, 470), H + 50, 104, 0.4f);
+    const Mask Pond = Below({{-10, H + 70}, {250, H + 58}, {470, H + 62}, {740, H + 72}});
+    PaintWater(P, &Pond, H + 56, 0.35f, 0.3f);
+    for (int I = 0; I < 12; ++I)
+        Rock(P, Any(P.C, 80, 640), H + Any(P.C, 60, 76), Any(P.C, 5, 16), 0.2f);
+    PaintLife(P, H + 90);
+    // the dark room before it all: floor, posts, eave
+    const Rgb Wood = Hex(0x6c4c34);
+    const Rgb Bright = Mix(Lit(P, Hex(0xb08858), 0.6f, 0), Sky(P, 0.1f), 0.25f);
+    const float Sill = 352;
+    for (int I = 0; I < 24; ++I) {
+        const float Y = Sill + float(I) * 3.2f;
+        Stroke(P.C, {{-10, Y}, {360, Y + AnyBell(P.C)}, {730, Y}}, 2.4f, 2.4f,
+               Mix(Bright, Lit(P, Times(Wood, 0.5f), 0.1f, 0), float(I) / 23), 1);
+        if (I % 5 == 0)
+            Stroke(P.C, {{-10, Y}, {730, Y}}, 0.6f, 0.6f, Lit(P, Times(Wood, 0.3f), 0.1f, 0), 0.8f);
+    }
+    const float Posts[] = {26, P.Seed % 2 ? 214.0f : 520.0f, 694};
+    for (const float X : Posts) {
+        for (int I = 0; I < 60; ++I)
+            Stroke(P.C, {{X + Any(P.C, -13, 13), -10}, {X + Any(P.C, -13, 13), Sill + 10}}, 2.5f,
+                   2.5f, Lit(P, Times(Wood, Any(P.C, 0.35f, 0.6f)), 0.15f, 0), 0.8f);
+        Stroke(P.C, {{X + 12 * SunSide(P, X), -10}, {X + 12 * SunSide(P, X), Sill}}, 1.4f, 1.4f,
+               Lit(P, Wood, 0.9f, 0), 0.8f);
+    }
+    for (int I = 0; I < 70; ++I) {
+        const float Y = Any(P.C, -6, 40);
+        Stroke(P.C, {{-10, Y}, {730, Y + AnyBell(P.C) * 2}}, 3, 3,
+               Lit(P, Times(Wood, Any(P.C, 0.28f, 0.5f)), 0.1f, 0), 0.7f);
+    }
+    Stroke(P.C, {{-10, 44}, {730, 44}}, 2, 2, Lit(P, Times(Wood, 0.9f), 0.5f, 0), 0.9f);
+    for (int I = 0; I < 2 + int(P.Seed % 2); ++I) { // lamps under the eave
+        const float X = 120 + 240 * float(I), S = 26;
+        const bool Lamp = P.Night || P.L->Kind == 'e';
+        Stroke(P.C, {{X, 40}, {X, 62}}, 0.7f, 0.7f, Lit(P, Wood, 0.2f, 0), 1);
+        if (Lamp) SoftDab(P.C, X, 86, 70, 70, Hex(0xffb048), 0.5f);
+        Dab(P.C, X, 86, S * 1.9f, S * 1.5f, Pi / 2,
+            Lamp ? Hex(0xf07838) : Lit(P, Hex(0xd84030), 0.7f, 0), 1);
+        if (Lamp) Dab(P.C, X, 88, S * 1.2f, S * 0.9f, Pi / 2, Hex(0xffd890), 0.85f);
+        for (int K = -2; K <= 2; ++K)
+            Stroke(P.C, {{X - 17, 86 + 7 * float(K)}, {X + 17, 86 + 7 * float(K)}}, 0.5f, 0.5f,
+                   Lit(P, Hex(0x602018), 0.4f, 0), 0.5f);
+    }
+}
+
+void PaintAlley(Scene& P)
+{
+    const float H = Vary(P, 90, 140), X = Any(P.C, 330, 390);
+    PaintSky(P, H + 60);
+    PaintMotif(P, P.Plan.Motif, X, H + 30, 130, 0.7f);
+    PaintMist(P, H + 30, 30, 0.5f);
+    static constexpr Rgb Walls[] = {{0.84f, 0.72f, 0.56f},
+                                    {0.62f, 0.42f, 0.30f},
+                                    {0.88f, 0.84f, 0.76f},
+                                    {0.70f, 0.34f, 0.26f},
+                                    {0.52f, 0.56f, 0.58f}};
+    PaintMeadow(P, nullptr, H + 26, Hex(0x948878), Hex(0xa89c88), 0.2f);
+    const int Steps = 30;
+    for (int I = 0; I < Steps; ++I) { // a stair that fills the gap
+        const float T = std::pow(float(I) / (Steps - 1), 1.35f), Y = Lerp(H + 30, Height + 10, T),
+                    Half = 24 + 150 * T, Thick = 2 + 8 * T, MX = X + 40 * std::sin(T * 2.4f);
+        Stroke(P.C, {{MX - Half, Y + Thick}, {MX + Half, Y + Thick}}, Thick * 0.6f, Thick * 0.6f,
+               Lit(P, Hex(0x6c645c), 0.2f, 0.5f * (1 - T)), 1);
+        Stroke(P.C, {{MX - Half, Y}, {MX, Y + AnyBell(P.C)}, {MX + Half, Y}}, Thick * 0.55f,
+               Thick * 0.55f,
+               Lit(P, P.Snow ? Hex(0xeef2f8) : Times(Hex(0xb8ac9c), Any(P.C, 0.85f, 1.1f)), 0.7f,
+                   0.5f * (1 - T)),
+               1);
+    }
+    const bool Lights = P.Night || P.L->Kind == 'e' || P.Plan.Weather == "rain";
+    for (int I = 0; I < 6; ++I) { // house over house up the stair
+        const float T = float(I) / 5, D = 0.12f + 0.88f * T * T, Far = 0.6f * (1 - T);
+        for (int Side = -1; Side <= 1; Side += 2) {
+            const float In = X + 40 * std::sin(D * 2.4f) + float(Side) * (26 + 150 * D),
+                        Foot = H + 40 + 330 * D, W = 70 + 200 * D,
+                        Tall = (120 + 250 * D) * Any(P.C, 0.85f, 1.1f);
+            const Rgb Wall = Walls[(std::size_t(I) * 2 + std::size_t(Side + 1) + P.Seed) % 5];
+            const float Left = Side < 0 ? In - W : In, S = 1 + 1.2f * D;
+            Draw(P.C, [&](QPainter& Q) {
+                Q.fillRect(
+                    QRectF(Left, Foot - Tall, W, Tall + 90),
+                    ToQColor(Lit(P, Wall, 0.4f - 0.14f * float(Side) * (P.SunX > X ? -1.0f : 1.0f),
+                                 Far)));
+                for (int Floor = 0; Floor < 3; ++Floor)
+                    for (int K = 0; K < 2; ++K) {
+                        const bool On = Lights && (I + Floor * 2 + K + Side + int(P.Seed)) % 3;
+                        const QRectF Pane(Left + W * (0.16f + 0.42f * float(K)),
+                                          Foot - Tall * (0.34f + 0.30f * float(Floor)), W * 0.26f,
+                                          Tall * 0.17f);
+                        Q.fillRect(Pane.adjusted(-2 * S, -2 * S, 2 * S, 2 * S),
+                                   ToQColor(Lit(P, Times(Wall, 0.55f), 0.4f, Far)));
+                        Q.fillRect(Pane, ToQColor(On ? Fade(P, Hex(0xffc868), Far * 0.5f)
+                                                     : Lit(P, Hex(0x383438), 0.3f, Far)));
+                        Q.setPen(QPen(ToQColor(Lit(P, Times(Wall, 0.4f), 0.3f, Far)), 0.8 * S));
+                        Q.drawLine(Pane.center() - QPointF(0, Pane.height() / 2),
+                                   Pane.center() + QPointF(0, Pane.height() / 2));
+                        Q.drawLine(QPointF(Pane.left(), Pane.center().y()),
+                                   QPointF(Pane.right(), Pane.center().y()));
+                        Q.setPen(Qt::NoPen);
+                    }
+                const Rgb Tile = P.Snow ? Hex(0xeaf0f8) : I % 2 ? Hex(0x4c545c) : Hex(0x8c5440);
+                for (const float Up : {0.42f, 1.0f}) {
+                    const double Y = Foot - Tall * Up, Out = 18 + 24 * D;
+                    Q.setBrush(ToQColor(Lit(P, Tile, 0.6f, Far)));
+                    Q.drawPolygon(QPolygonF({{Left - Out, Y + 10 * S},
+                                             {Left + 4, Y - 14 * S},
+                                             {Left + W - 4, Y - 14 * S},
+                                             {Left + W + Out, Y + 10 * S}}));
+                    Q.setBrush(ToQColor(Lit(P, Times(Tile, 0.45f), 0.2f, Far)));
+                    Q.drawRect(QRectF(Left - Out, Y + 9 * S, W + 2 * Out, 3 * S));
+                }
+            });
+            const float LX = In - float(Side) * (6 + 10 * D), LY = Foot - Tall * 0.30f,
+                        Size = 4 + 17 * D;
+            const Rgb Paper = (I + Side) % 3 ? Hex(0xe84830) : Hex(0xffb848);
+            if (Lights)
+                SoftDab(P.C, LX, LY, Size * 3.4f, Size * 3.4f, Mix(Paper, Hex(0xffc060), 0.5f),
+                        0.5f);
+            Dab(P.C, LX, LY, Size * 1.5f, Size * 1.1f, Pi / 2,
+                Lights ? Paper : Lit(P, Paper, 0.7f, Far), 1);
+            if (Lights) Dab(P.C, LX, LY + 1, Size * 0.9f, Size * 0.6f, Pi / 2, Hex(0xfff0b0), 0.8f);
+        }
+        if (I > 1 && I < 5) { // a line of lamps across
+            for (int K = 0; K <= 8; ++K) {
+                const float U = float(K) / 4 - 1,
+                            LX = X + 40 * std::sin(D * 2.4f) + U * (26 + 150 * D),
+                            LY = H + 30 + 150 * D - 60 * D + 30 * D * (1 - U * U), Size = 2 + 6 * D;
+                if (Lights) SoftDab(P.C, LX, LY, Size * 3, Size * 3, Hex(0xffa040), 0.4f);
+                Dab(P.C, LX, LY, Size * 1.3f, Size, Pi / 2,
+                    Lights ? Hex(0xffc870) : Lit(P, Hex(0xe05038), 0.7f, Far), 1);
+            }
+        }
+    }
+    const std::vector<Rgb> Exact = P.C.Px; // plain walls want the touch of a brush
+    for (float& Flow : P.C.Flow) Flow = 0.25f * AnyBell(P.C);
+    Repaint(P.C, nullptr, {{3.2f, 4, -1, 0.09f}, {1.6f, 4, 0.10f, 0.05f}});
+    for (std::size_t I = 0; I < Exact.size(); ++I) P.C.Px[I] = Mix(P.C.Px[I], Exact[I], 0.3f);
+    PaintLife(P, H + 200);
+}
+
+void PaintGreatBridge(Scene& P)
+{
+    const float H = Vary(P, 200, 240);
+    PaintSky(P, H);
+    Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 2, 90, H, P.Snow ? 0.8f : 0.1f, 0.6f);
+    PaintMist(P, H - 6, 16, 0.5f);
+    Village(P, -10, 300, H + 8, 28, 9, 0.6f);
+    Village(P, 480, 740, H + 8, 28, 8, 0.6f);
+    PaintMotif(P, P.Plan.Motif, Any(P.C, 330, 450), H + 6, 110, 0.6f);
+    for (int I = 0; I < 9; ++I)
+        PaintTree(P, SeasonTree(P), Any(P.C, 0, 720), H + 10, Any(P.C, 40, 80), 0.45f);
+    Bridge(P, Vary(P, 20, 90, 3), Any(P.C, 620, 690), H + 60, Any(P.C, 64, 110), 0.1f,
+           P.Seed % 2 == 0);
+    PaintWater(P, nullptr, H + 62, 0.5f, 0.3f);
+    if (P.L->OrbSize > 0) PaintGlitter(P, H + 64, Height, 0.5f);
+    Boat(P, P.Seed % 2 ? "row" : "raft", 350, H + 92, 84, 0.05f);
+    PaintLife(P, H + 130);
+    if (P.Seed % 3 == 0) Overhang(P, Tree::Willow, 210);
+    if (P.Seed % 3 == 1)
+        Overhang(P,
+                 P.Plan.Season == "spring"   ? Tree::Cherry
+                 : P.Plan.Season == "autumn" ? Tree::Maple
+                                             : Tree::Pine,
+                 260);
+}
+
+void PaintCamp(Scene& P)
+{
+    const float H = Vary(P, 270, 310);
+    PaintSky(P, H);
+    Ranges(P, Hill::Alpine, 2, 120, H, P.Snow ? 1.2f : 0.4f, 0.2f);
+    PaintMist(P, H - 6, 14, 0.4f);
+    PaintMeadow(P, nullptr, H, Times(GroundColour(P), 0.8f), GroundColour(P), 1);
+    const float X = Any(P.C, 330, 430), Y = H + 56;
+    PaintMotif(P, "yurts", X - 190, H + 44, 130, 0.1f);
+    PaintMotif(P, P.Plan.Motif, 620, H + 16, 60, 0.6f);
+    for (int I = 0; I < 8; ++I)
+        PaintTree(P, P.Snow || I % 2 ? Tree::Fir : SeasonTree(P),
+                  I % 2 ? Any(P.C, 540, 730) : Any(P.C, -10, 60), H + Any(P.C, 10, 60),
+                  Any(P.C, 60, 130), 0.15f);
+    SoftDab(P.C, X, Y, 330, 110, Hex(0xff9838), P.Night ? 0.5f : 0.22f);
+    SoftDab(P.C, X, Y - 10, 90, 70, Hex(0xffc060), 0.6f);
+    for (int I = 0; I < 60; ++I) { // the fire
+        const float U = AnyBell(P.C), T = Any(P.C),
+                    L = Any(P.C, 10, 30) * (1 - 0.6f * std::fabs(U));
+        Dab(P.C, X + U * 13, Y - T * 30 * (1 - std::fabs(U)) - L * 0.3f, L, 5 * (1 - 0.5f * T),
+            Pi / 2 + U * 0.3f, Mix(Hex(0xfff0a0), Hex(0xf05018), Clamp(T + std::fabs(U) * 0.5f)),
+            0.85f, true);
+    }
+    for (int I = 0; I < 5; ++I)
+        Stroke(P.C, {{X - 18 + 8 * float(I), Y + 4}, {X + 14 - 7 * float(I), Y - 4}}, 2, 2,
+               Hex(0x3c2418), 1);
+    for (int I = 0; I < 60; ++I)
+        Dab(P.C, X + AnyBell(P.C) * 60, Y - Any(P.C) * Any(P.C) * 190, 1.4f, 1.4f, 0, Hex(0xffb850),
+            Any(P.C, 0.4f, 0.9f));
+    for (int I = 0; I < 4; ++I) { // people around it
+        const float PX = X + (I % 2 ? 1.0f : -1.0f) * (34 + 20 * float(I / 2)),
+                    PY = Y + 6 + 4 * float(I);
+        const Rgb Cloak = Lit(P, I % 2 ? Hex(0x904030) : Hex(0x405878), 0.5f, 0);
+        Dab(P.C, PX, PY - 9, 22, 17, Pi / 2, Cloak, 1);
+        Dab(P.C, PX + (PX < X ? 5.0f : -5.0f), PY - 10, 12, 5, Pi / 2,
+            Mix(Cloak, Hex(0xffa850), 0.6f), 0.8f);
+        Dab(P.C, PX, PY - 23, 9, 9, 0, Lit(P, Hex(0x503828), 0.5f, 0), 1);
+    }
+    PaintLife(P, H + 96);
+    Grasses(P, 0, 720, Height + 6, 36, 240, P.Snow ? Hex(0xb8b0a0) : GroundColour(P), 0);
+}
+
+void PaintRooftops(Scene& P)
+{
+    const float H = Vary(P, 110, 160);
+    PaintSky(P, H);
+    Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 3, 90, H + 8, P.Snow ? 0.9f : 0.2f, 0.6f);
+    PaintMist(P, H + 10, 26, 0.6f);
+    PaintMeadow(P, nullptr, H + 6, Hex(0x70786c), Hex(0x80887c), 0.4f);
+    PaintMotif(P, P.Plan.Motif, Vary(P, 230, 500, 3), H + 84, 170, 0.4f);
+    static constexpr std::uint32_t Tiles[] = {0x586470, 0x6c5c54, 0x4c5c60, 0x94604c};
+    for (int Row = 0; Row < 8; ++Row) { // roofs in rows, each before the next
+        const float T = float(Row) / 7, Y = H + 40 + 120 * T + 130 * T * T, Size = 22 + 66 * T;
+        for (int I = 0; I < 12 - Row; ++I) {
+            const float X = (float(I) + 0.5f + Any(P.C, -0.3f, 0.3f)) * 740 / float(12 - Row) - 10,
+                        W = Size * Any(P.C, 0.9f, 1.3f), Far = 0.9f * (1 - T);
+            if (Any(P.C) < 0.3f) PaintTree(P, SeasonTree(P), X + W, Y, Size * 1.2f, Far);
+            const Rgb Tile = P.Snow ? Hex(0xecf2f8) : Hex(Tiles[AnyOf(P.C, 4)]);
+            Draw(P.C, [&](QPainter& Q) {
+                Q.fillRect(QRectF(X - W * 0.7f, Y - Size * 0.1f, W * 1.4f, Size),
+                           ToQColor(Lit(P, Hex(0xd8ccb4), 0.4f, Far)));
+                for (int K = -1; K <= 1; ++K)
+                    Q.fillRect(QRectF(X + float(K) * W * 0.42f - W * 0.1f, Y + Size * 0.16f,
+                                      W * 0.2f, Size * 0.26f),
+                               (P.Night || P.L->Kind == 'e') && (K + I + Row) % 3
+                                   ? ToQColor(Fade(P, Hex(0xffc460), Far * 0.5f))
+                                   : ToQColor(Lit(P, Hex(0x403c3c), 0.3f, Far)));
+                QPainterPath Roof(QPointF(X - W, Y + Size * 0.06f));
+                Roof.quadTo(X - W * 0.6f, Y - Size * 0.1f, X - W * 0.5f, Y - Size * 0.5f);
+                Roof.lineTo(X + W * 0.5f, Y - Size * 0.5f);
+                Roof.quadTo(X + W * 0.6f, Y - Size * 0.1f, X + W, Y + Size * 0.06f);
+                Roof.closeSubpath();
+                QLinearGradient G(0, Y - Size * 0.5f, 0, Y);
+                G.setColorAt(0, ToQColor(Lit(P, Tile, 0.85f, Far)));
+                G.setColorAt(1, ToQColor(Lit(P, Tile, 0.4f, Far)));
+                Q.fillPath(Roof, G);
+                Q.setClipPath(Roof);
+                Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.6f), 0.3f, Far), 0.6f), 0.7 + T));
+                for (int K = -7; K <= 7; ++K)
+                    Q.drawLine(QPointF(X + W * 0.075 * K, Y - Size * 0.5f),
+                               QPointF(X + W * 0.145 * K, Y + Size * 0.06f));
+                Q.setClipping(false);
+                Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.7f), 0.8f, Far)), 1 + 2.4 * T));
+                Q.drawLine(QPointF(X - W * 0.53f, Y - Size * 0.5f),
+                           QPointF(X + W * 0.53f, Y - Size * 0.5f));
+            });
+        }
+        if (Row == 2) PaintMist(P, Y + 10, 12, 0.3f);
+    }
+    for (int I = 0; I < 6; ++I) {
+        const float X = Any(P.C, 60, 660), Y = Any(P.C, H + 60, 300);
+        for (int K = 0; K < 10; ++K)
+            SoftDab(P.C, X + float(K * K) * 0.4f, Y - float(K) * 6, 3 + float(K),
+                    4 + float(K) * 0.7f, Mix(Hex(P.L->Haze), Hex(P.L->CloudLit), 0.5f), 0.2f);
+    }
+    PaintLife(P, H + 40);
+}
+
+void PaintGateFrame(Scene& P)
+{
+    const float H = Vary(P, 190, 250), X = Any(P.C, 330, 390);
+    PaintSky(P, H);
+    Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Karst, 2, 130, H, P.Snow ? 0.9f : 0.2f, 0.5f);
+    PaintMist(P, H - 6, 24, 0.6f);
+    if (P.Seed % 2) {
+        PaintMotif(P, P.Plan.Motif, X + Any(P.C, -50, 50), H + 4, 96, 0.6f);
+        PaintWater(P, nullptr, H + 6, 0.4f, 0.25f);
+        if (P.L->OrbSize > 0) PaintGlitter(P, H + 8, Height, 0.5f);
+        Boat(P, "row", X - 40, H + 64, 66, 0.15f);
+    } else {
+        PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
+        PaintMotif(P, P.Plan.Motif, X + Any(P.C, -50, 50), H + 20, 110, 0.5f);
+        for (int I = 0; I < 14; ++I)
+            PaintTree(P, SeasonTree(P), I % 2 ? X - Any(P.C, 90, 340) : X + Any(P.C, 90, 340),
+                      H + Any(P.C, 10, 70), Any(P.C, 50, 110), 0.4f);
+        PathWay(P, {{X, H + 22}, {X + 20, H + 60}, {X, Height + 20}}, 6, 110,
+                P.Snow ? Hex(0xdce4ee) : Hex(0xccb48c));
+    }
+    PaintMotif(P, "torii", X, Height + 24, 490,
+               0.02f); // the gate stands so near that it frames the view
+    for (int I = 0; I < 4; ++I)
+        Bush(P, I % 2 ? Any(P.C, -10, 90) : Any(P.C, 640, 730), Height + 2, Any(P.C, 24, 50), 0);
+    PaintLife(P, H + 120);
+}
+
+void PaintFrostField(Scene& P)
+{
+    const float H = Vary(P, 180, 270);
+    PaintSky(P, H);
+    if (P.Seed % 2) {
+        const float R = Any(P.C, 54, 80), X = Any(P.C, 420, 560), Y = H - R * 0.7f;
+        const Rgb Disc =
+            Mix(P.L->OrbSize > 0 ? Hex(P.L->Orb) : Hex(P.L->Horizon), Hex(0xfff4e0), 0.3f);
+        SoftDab(P.C, X, Y, R * 2, R * 2, Disc, 0.4f);
+        Dab(P.C, X, Y, R * 2, R * 2, 0, Disc, 0.92f);
+    }
+    Ranges(P, Hill::Soft, 2, 30, H + 1, 0.9f, 0.6f);
+    PaintMeadow(P, nullptr, H, Hex(0xe8eef6), Hex(0xe0e8f2), 0.5f);
+    for (int I = 0; I < 40; ++I) { // blue shadows of the drifts
+        const float T = Any(P.C), X = Any(P.C, 0, 720), Y = Lerp(H + 10, Height, T),
+                    L = 30 + 150 * T;
+        Stroke(P.C, Curve({{X - L, Y}, {X, Y - 3 - 6 * T}, {X + L, Y + 2}}, 5),
+               1 + 5 * T * Any(P.C), 0.5f, Lit(P, Hex(0xb0c4e4), 0.3f, 0.5f * (1 - T)), 0.45f);
+    }
+    const float X = Any(P.C, 170, 290);
+    PaintMotif(P, P.Plan.Motif == "none" ? "teahouse" : P.Plan.Motif, X, H + 50, 100, 0.2f);
+    for (int I = 0; I < 3; ++I)
+        PaintTree(P, I ? Tree::Fir : Tree::Bare, X + Any(P.C, -120, 120), H + 52, Any(P.C, 70, 130),
+                  0.15f);
+    for (int I = 0; I < 22; ++I) { // a fence that leads to it, and footprints
+        const float T = float(I) / 21, FX = Lerp(X + 70, 700, T), FY = H + 56 + 110 * T * T;
+        Stroke(P.C, {{FX, FY}, {FX + 1, FY - 9 - 26 * T}}, 0.8f + 2 * T, 0.8f + 2 * T,
+               Lit(P, Hex(0x5c4c40), 0.3f, 0.2f * (1 - T)), 1);
+        Dab(P.C, FX, FY - 9 - 27 * T, 3 + 6 * T, 1.5f + 3 * T, 0, Lit(P, Hex(0xf4f8fc), 0.9f, 0),
+            1);
+        Dab(P.C, X + 20 + 130 * T + 9 * float(I % 2) * T, H + 60 + 150 * T, 3 + 9 * T, 1.2f + 4 * T,
+            0.3f, Lit(P, Hex(0x98acd0), 0.2f, 0.1f), 0.6f);
+    }
+    PaintTree(P, Tree::Bare, P.Seed % 3 ? 620 : 560, 400, Any(P.C, 190, 300), 0);
+    Grasses(P, 0, 720, Height + 2, 26, 50, Hex(0xb0a080), 0);
+    PaintLife(P, H + 110);
+}
