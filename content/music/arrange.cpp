@@ -117,9 +117,8 @@ int FigureKey(const PlacedChord& C, char Voice)
     if (Voice == 'B') return C.Bass - 12;
     if (Voice == 'o') return C.Bass + 12;
     if (Voice == 'f') {
-        for (int Key = C.Bass + 5; Key < C.Bass + 10; ++Key)
-            if (Key % 12 == C.Symbol.Tones.back() || Key % 12 == (C.Symbol.Root + 7) % 12)
-                if (InChord(C.Symbol, Key)) return Key;
+        for (int Above : {7, 8, 6, 9, 5})
+            if (InChord(C.Symbol, C.Bass + Above)) return C.Bass + Above;
         return C.Bass + 12;
     }
     const int Index = Voice - '1', Count = static_cast<int>(C.Voices.size());

@@ -123,7 +123,6 @@ void CheckBar(const Reader& In, int LineNumber, const std::string& Name, int Bar
 Line ReadLine(const Reader& In, int LineNumber, const std::string& Name, const std::string& Text)
 {
     Line Result;
-    Result.SourceLine = LineNumber;
     int Now = 0, Bar = 0, TripletsLeft = 0;
     bool Tied = false, Grace = false;
     for (std::size_t At = 0; At < Text.size();) {

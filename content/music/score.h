@@ -1,41 +1,4 @@
-// score.h: a piece of music as it is written in scores/*.txt.
-//
-// A score is read from top to bottom; a line that begins with # is a comment.
-//
-//   title    The Ferry at First Light
-//   tempo    3/8=54                      beats a minute; the beat is the written note value
-//   metre    6/8                         7/8 2+2+3 tells where the accents fall
-//   scale    D dorian                    letters without a sign take the sign of the scale
-//   unit     1/8                         the length of a note without a number
-//   swing    62                          per cent of the beat that its first half takes (50)
-//   hall     40                          reverb, per cent
-//   bass     E2                          lowest tone of the bass; it keeps within an octave and a
-//   half voicing  3 E3 C5                     how many voices lie over the bass, and in which range
-//
-//   part harp harp pan 30 level -4 plays rolling
-//                                        name, instrument, place (-64..63), decibels, default
-//                                        content
-//   figure rolling  b 1 2 3 2 1          an accompaniment, repeated bar by bar:
-//                                        b bass, B and o its lower and higher octave, f the fifth
-//                                        over it, 1 2 3.. the voices from below (4 is 1 an octave
-//                                        higher when there are three), x a stroke of a drum, z a
-//                                        rest, [b13] together; a length as b:3 or b/2
-//   section A
-//     chords  Dm | C . G . | ...         the chords of a bar share it evenly, . holds the last one
-//     on melody  D2 F A2 d | z c6 || ...    || ends a phrase; capital C is the middle C, c the
-//     octave
-//                                        above, c' the next, C, the one below; ^ sharp, _ flat,
-//                                        = natural for this note; (3abc a triplet, a- a tie, [ac]
-//                                        both together, {b}a a grace note, a length 3, 3/2, /2
-//     counter ...                        any other written line
-//     harp    plucked                    what a part plays here, if not its default
-//   form
-//     A p                                sections in their order; a word of loudness pp p mp mf f,
-//     A  flute=- harp=melody+12          "rit" for a slowing end, PART=CONTENT to vary the parts,
-//     B  up=2 tempo=96 chords=late       up (semitones), tempo (per cent), other chords
-//
-// CONTENT is a figure or a written line, or - for silence, followed by any of
-//   +12 -12 (semitones), ~ (ornamented), /3 (a harmony below the line).
+// score.h: a piece of music as it is written in scores/*.txt, in the way that NOTATION tells.
 //
 // Lengths are counted in ticks. A broken rule of the notation throws std::runtime_error with the
 // file, the line and the rule.
@@ -84,7 +47,6 @@ struct Line {
     std::vector<WrittenNote> Notes;
     std::vector<int> PhraseEnds; // ticks
     int Ticks = 0;
-    int SourceLine = 0;
 };
 
 struct FigureTone {
