@@ -42,6 +42,7 @@ int CostAlone(const Score& S, const Chord& C, const Voicing& V, int Floor)
         if (V.Voices[I - 1] < 48 && Gap < 7) Cost += 4; // low and close is muddy
     }
     if (V.Voices.front() - V.Bass < 3) Cost += 8;
+    if (V.Voices.front() < V.Bass) Cost += 60;
     if (V.Voices.back() > Floor) Cost += 20;
     if (V.Voices.back() == Floor) Cost += 3;
     const int Middle = (V.Voices.front() + V.Voices.back()) / 2;

@@ -105,6 +105,15 @@ TEST(Scores, NoVoiceCrossesTheMelody)
     }
 }
 
+TEST(Scores, TheBassLiesUnderTheVoices)
+{
+    for (const Piece& P : AllPieces())
+        for (const PlacedChord& C : P.Played.Chords)
+            EXPECT_TRUE(C.Voices.empty() || C.Bass <= C.Voices.front())
+                << P.Written.File << ": " << C.Symbol.Name << " in bar "
+                << C.Symbol.Start / P.Written.BarTicks + 1;
+}
+
 TEST(Scores, PhrasesEndOnTonesOfTheirChord)
 {
     for (const Piece& P : AllPieces())
