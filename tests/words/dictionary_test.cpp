@@ -94,6 +94,21 @@ TEST(OpenDictionary, TellsOfADamagedHeader)
     }
 }
 
+TEST(OpenDictionary, NumbersOfTheHeaderMayBeAsLargeAsTheyGet)
+{
+    for (const unsigned Large : {0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu, 0u}) {
+        std::string File = Headed({Large}, {"ACE,BEE"}, {IndexBlock({{2000, {{1, 1}}}})});
+        File.replace(124, 4, Number(Large, 4));
+        testing::internal::CaptureStderr();
+        Open("large", File);
+        EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+        for (const char* Word : {"ACE", "BEE", "ZOO"}) {
+            EXPECT_EQ(Ask(Word, CheckWord), 0);
+            EXPECT_EQ(Ask(Word, SuggestAll), 0);
+        }
+    }
+}
+
 TEST(OpenDictionary, AFileCutWhileOpenLosesWordsOnly)
 {
     Open("cut", Blocks({"AARON,ACE", "BAKE,BEE", "CAKE,CRY"}));
