@@ -129,6 +129,7 @@ static bool IsNear(const std::string& Candidate, std::string Target, NearnessCou
 void FindSuggestions(const std::string& Word, std::int16_t& Result, bool All)
 {
     NoticeCut();
+    DictionaryState.Suggestions.clear();
     Result = 0;
     if (!ReadBlock(1) || !HasHeader()) return;
     const long long IndexStart = Long(IndexStartOffset);

@@ -121,6 +121,21 @@ TEST(FindSuggestions, TheListIsThatOfTheLastCommand)
     EXPECT_EQ(DictionaryState.AllSuggestions, 0);
 }
 
+TEST(FindSuggestions, CalledByItselfItStartsAnEmptyList)
+{
+    Open("alone", Headed({2}, {"ACE,AGE"}, {IndexBlock({{2000, {{1, 1}}}})}));
+    for (int Time = 1; Time <= 2; ++Time) {
+        std::int16_t Result = 5;
+        FindSuggestions("ice", Result, true);
+        EXPECT_EQ(Result, -1) << Time;
+        EXPECT_EQ(DictionaryState.Suggestions, Words{"ACE"});
+    }
+    std::int16_t Result = 5;
+    FindSuggestions("BEE", Result, true);
+    EXPECT_EQ(Result, 0);
+    EXPECT_TRUE(DictionaryState.Suggestions.empty());
+}
+
 // The filter. All stand under the sound 2200, whatever they sound like.
 static Words Filter(const std::string& Target, const std::string& Block)
 {
