@@ -1,10 +1,12 @@
 #include "console/console.h"
 
 #include "board/board.h"
+#include "frame/files.h"
 #include "media/media.h"
 #include "records/records.h"
 #include "screens/screens.h"
 #include "words/word_play.h"
+#include "words/words.h"
 
 #include <functional>
 #include <map>
@@ -73,7 +75,7 @@ static std::string Answer(double Value)
 {
     return NumberText(Value);
 }
-[[maybe_unused]] static std::string Answer(const std::string& Value)
+static std::string Answer(const std::string& Value)
 {
     return QuotedText(Value);
 }
@@ -105,6 +107,21 @@ static void PlaceRun(int X, int Y, int Z, int Count)
 {
     I16 Column = X;
     PlaceTileRun(Column, Y, Z, Count);
+}
+
+// The file to open may be named as the game names it, "\DATA\AS0001".
+static int RunDictionaryCommand(const std::string& Word, int Code)
+{
+    auto Answered = static_cast<std::int16_t>(Code);
+    DictionaryCommand(Code == OpenFile && Word.starts_with('\\') ? HostPath(Word) : Word, Answered);
+    return Answered;
+}
+
+static int Suggest(const std::string& Word, int, bool All)
+{
+    std::int16_t Result = 0;
+    FindSuggestions(Word, Result, All);
+    return Result;
 }
 
 static const std::map<std::string, Operation>& Operations()
@@ -164,6 +181,11 @@ static const std::map<std::string, Operation>& Operations()
         // words
         RULE(AddLetter),
         RULE(ClearWord),
+        {"DictionaryCommand", Call(RunDictionaryCommand)},
+        {"FindSuggestions", Call(Suggest)},
+        RULE(IsCommonWord),
+        RULE(SoundCode),
+        RULE(WordAt),
         // records
         RULE(LoadSettings),
         RULE(SaveSettings),

@@ -2,6 +2,7 @@
 
 #include "frame/elements.h"
 #include "frame/frame.h"
+#include "words/words.h"
 
 #include <functional>
 #include <limits>
@@ -32,6 +33,10 @@ static std::string ValueText(const std::string& Value)
 {
     return QuotedText(Value);
 }
+static std::string ValueText(const std::array<char, BlockSize>& Value)
+{
+    return QuotedText(std::string(Value.begin(), Value.end()));
+}
 static std::string ValueText(const Colour& Value)
 {
     return QuotedText(std::to_string(Value.Red) + "," + std::to_string(Value.Green) + "," +
@@ -60,6 +65,10 @@ static std::string SetValue(std::string& Into, const Argument& Value)
     if (!Value.Quoted) return "error: a text stands in quotes";
     Into = Value.Text;
     return "ok";
+}
+static std::string SetValue(std::array<char, BlockSize>&, const Argument&)
+{
+    return "error: the block cannot be set";
 }
 static std::string SetValue(Colour&, const Argument&)
 {
@@ -124,6 +133,22 @@ static void Register(const std::string& Name, Table<T, Spans...>& Cells,
     Variable.Set = [&Cells](int Cell, const std::string& Field, const Argument& New) {
         return WithField(Cells.Cells[Cell], Field,
                          [&](auto& Value) { return SetValue(Value, New); });
+    };
+}
+
+// A list of texts, counted from 1; all its cells are in use.
+static void Register(const std::string& Name, std::vector<std::string>& Texts)
+{
+    StateVariable& Variable = Variables[Name];
+    Variable.First = {1};
+    Variable.Last = {std::numeric_limits<int>::max()};
+    Variable.InUse = [&Texts] { return std::pair<int, int>(1, static_cast<int>(Texts.size())); };
+    Variable.Get = [&Texts](int Cell, const std::string& Field) {
+        if (Cell >= static_cast<int>(Texts.size())) return std::string("error: no such cell");
+        return Field.empty() ? ValueText(Texts[Cell]) : NoField;
+    };
+    Variable.Set = [](int, const std::string&, const Argument&) {
+        return std::string("error: the list cannot be set");
     };
 }
 
@@ -275,6 +300,25 @@ static void RegisterAll()
     VALUE(SampleShown);
 #undef VALUE
 #undef CELLS
+    DictionaryRecord& D = DictionaryState;
+#define VALUE(Name) Register(#Name, D.Name)
+    VALUE(IsOpen);
+    VALUE(BlockCount);
+    VALUE(Low);
+    VALUE(High);
+    VALUE(Middle);
+    VALUE(Block);
+    VALUE(Target);
+    VALUE(Current);
+    VALUE(Previous);
+    VALUE(IgnoreDigits);
+    VALUE(SkipList);
+    VALUE(Suggestions);
+    VALUE(FileName);
+    VALUE(WordList);
+    VALUE(IsSuggesting);
+    VALUE(AllSuggestions);
+#undef VALUE
     Register("RandomGroupMarks", S.RandomBlockChosen); // the chooser's word for the same array
 }
 
