@@ -58,20 +58,30 @@ void Field32(RecordFile& File, int Offset, I32& Value, Legal Values)
 
 // --- texts ---
 
-// UTF-8 to Latin-1. A character that a single byte cannot hold is filed as "?".
+// How many bytes the character at I has; 1 for a byte that begins none.
+static std::size_t CharacterLength(const std::string& Text, std::size_t I)
+{
+    const auto Byte = static_cast<std::uint8_t>(Text[I]);
+    const std::size_t Length = Byte < 0xC0 ? 1 : Byte < 0xE0 ? 2 : Byte < 0xF0 ? 3 : 4;
+    for (std::size_t J = I + 1; J < I + Length; ++J)
+        if (J >= Text.size() || (static_cast<std::uint8_t>(Text[J]) & 0xC0) != 0x80) return 1;
+    return Length;
+}
+
+// UTF-8 to Latin-1. A character that a single byte cannot hold is filed as "?"; a byte that is no
+// UTF-8 is Latin-1 already.
 static std::string SingleBytes(const std::string& Text)
 {
     std::string Result;
-    for (std::size_t I = 0; I < Text.size(); ++I) {
-        const auto Byte = static_cast<std::uint8_t>(Text[I]);
-        if (Byte < 0x80) {
+    for (std::size_t I = 0, Length; I < Text.size(); I += Length) {
+        Length = CharacterLength(Text, I);
+        const int Byte = static_cast<std::uint8_t>(Text[I]);
+        if (Length == 1)
             Result += Text[I];
-        } else if ((Byte == 0xC2 || Byte == 0xC3) && I + 1 < Text.size()) {
-            Result +=
-                static_cast<char>((Byte << 6) | (static_cast<std::uint8_t>(Text[++I]) & 0x3F));
-        } else if (Byte >= 0xC0) {
-            Result += '?'; // the bytes that follow it, 0x80 to 0xBF, belong to it
-        }
+        else if (Byte == 0xC2 || Byte == 0xC3)
+            Result += static_cast<char>(Byte << 6 | (Text[I + 1] & 0x3F));
+        else
+            Result += '?';
     }
     return Result;
 }

@@ -114,7 +114,8 @@ TEST_F(History, TheFortyThirdGamePushesTheFirstOutOfItsList)
     EXPECT_EQ(Row(1, 1).Score, 43);
     EXPECT_EQ(Row(1, 42).Score, 2);
     EXPECT_EQ(Row(2, 42).Score, 2);
-    EXPECT_EQ(Row(3, 1).Score, 1); // it was recorded there too
+    EXPECT_EQ(Row(1, 43).Score, 1); // the spill row, which is not filed
+    EXPECT_EQ(Row(3, 1).Score, 1);  // it was recorded there too
     LoadHistory();
     EXPECT_EQ(Row(1, 42).Score, 2);
     EXPECT_EQ(Row(1, 43).Score, 0);

@@ -239,6 +239,15 @@ TEST_F(Settings, ANameIsSingleByteOnDiskAndUtf8InMemory)
     EXPECT_EQ(GameState.PlayerNames(1, 2), "?uk??");
 }
 
+TEST_F(Settings, BytesThatAreNoUtf8AreFiledAsTheyAre)
+{
+    GameState.PlayerNames(1, 1) = "zo\xeb \xc3";
+    GameState.PlayerNames(1, 2) = "\xe2\x82 \xf0\x9f";
+    SaveSettings();
+    EXPECT_EQ(FileContent("Settings.dat").substr(76, 24),
+              "       zo\xeb \xc3       \xe2\x82 \xf0\x9f");
+}
+
 TEST_F(Settings, BytesThatAreNoCharactersReadAsBlanks)
 {
     std::string File(508, '\0');
