@@ -4,7 +4,7 @@
 #include "forms.h"
 
 static const QColor Heading("#f0cf78");
-static const QColor Celadon("#5b7d69"); // black and yellow rows both stand out on it
+static const QColor Celadon("#5c7e6a"); // black and yellow rows both stand out on it
 
 static QRectF Grown(const QRectF& Box, double X, double Y)
 {
@@ -127,7 +127,7 @@ static void DrawScores(QPainter& P)
     P.fillRect(Table, Celadon);
     FillJade(P, Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6),
              Light(Celadon, .02), Dark(Celadon, .02));
-    P.fillRect(Table, Alpha(Celadon, .72)); // calm the stone under the rows
+    P.fillRect(Table, Alpha(Celadon, .9)); // calm the stone under the rows
     P.fillPath(Rounded(Table.x(), Table.y(), Table.width(), 24, 4), QColor("#10291d"));
     for (int I = 0; I < 8; I += 2) {
         QRectF Column = BoxOf(QString(ScoreHeads[I]) + "(1)");

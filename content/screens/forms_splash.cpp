@@ -11,6 +11,7 @@ static void DrawEmblemTile(QPainter& P, const QRectF& Box, int Tiers)
     P.save();
     P.translate(Box.topLeft());
     P.scale(Box.width() / TileSize, Box.height() / TileSize);
+    P.fillRect(QRectF(5, 46, 9, 9), QColor("#c5b288")); // behind the face's round corner
     DrawTileBody(P, TileNormal);
     const QPointF Middle = TileArt.center();
     P.fillPath(Circle(Middle.x(), Middle.y() - 2.5, 18),
@@ -128,6 +129,12 @@ static void DrawTitlePicture(QPainter& P, const QRectF& Box)
     const QPainterPath Pagoda = Moved(PagodaPath(5), 366, 88, 0, 1.3, 2.32);
     P.fillPath(Pagoda, Linear(430, 90, 430, 320, {"#3a1c1c", "#241a1a", "#10241b"}));
     P.strokePath(Pagoda, Line(Alpha("#ffcf80", .3), .8));
+    QPainterPath Mound(QPointF(200, 390));
+    Mound.cubicTo(290, 350, 330, 318, 400, 317);
+    Mound.cubicTo(480, 315, 520, 326, 580, 345);
+    Mound.cubicTo(620, 356, 640, 360, 660, 366);
+    Mound.lineTo(660, 390);
+    P.fillPath(Mound, Linear(0, 315, 0, 372, {"#16382a", "#0c2418"}));
     DrawHills(P, 368, 56, 130, 91, "#0e271c", "#0a1d14");
     DrawPine(P, 560, 350, 108, -20);
     DrawPine(P, 604, 356, 76, 14);

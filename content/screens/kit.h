@@ -9,8 +9,8 @@
 
 constexpr int Sharpness = 2; // pixels of a picture to one pixel of the design
 
-inline constexpr const char* PlateDark = "#081710"; // ground of a sunken plate
-inline constexpr const char* PlateLight = "#10281c";
+inline constexpr const char* PlateDark = "#06130d"; // ground of a sunken plate
+inline constexpr const char* PlateLight = "#0d2418";
 inline constexpr const char* SignJade = "#17583e"; // drawn signs on ivory
 inline constexpr const char* SignRed = "#b8281c";
 inline constexpr const char* SignGold = "#b97f16";

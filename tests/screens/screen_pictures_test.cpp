@@ -1,0 +1,388 @@
+// screen_pictures_test.cpp: every element has its picture, every text its contrast and its room
+#include "frame/elements.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QTextStream>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <set>
+
+static const QString Data = PAGODAS_GAME_DIR "/DATA/";
+constexpr int Sharpness = 2;
+constexpr double EnoughContrast = 4.5;
+
+struct IndexRow {
+    int Sheet;
+    QRect Box;
+};
+
+static const std::map<std::string, IndexRow>& Index()
+{
+    static std::map<std::string, IndexRow> Rows;
+    if (!Rows.empty()) return Rows;
+    QFile File(Data + "FM0000");
+    if (!File.open(QIODevice::ReadOnly)) return Rows;
+    for (const QString& Line : QString::fromUtf8(File.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        const QStringList Words = Line.split(' ');
+        if (Words.size() != 6) continue;
+        Rows[Words[0].toStdString()] = {
+            Words[1].toInt(),
+            QRect(Words[2].toInt(), Words[3].toInt(), Words[4].toInt(), Words[5].toInt())};
+    }
+    return Rows;
+}
+
+static const QImage& FileImage(const QString& Name)
+{
+    static std::map<QString, QImage> Images;
+    const auto [At, New] = Images.try_emplace(Name);
+    if (New) At->second = QImage(Data + Name).convertToFormat(QImage::Format_ARGB32);
+    return At->second;
+}
+
+static QImage FormImage(const std::string& Name)
+{
+    const auto Row = Index().find(Name);
+    if (Row == Index().end()) return {};
+    return FileImage(QString("FM%1").arg(Row->second.Sheet, 4, 10, QChar('0')))
+        .copy(Row->second.Box);
+}
+
+static bool FilledFromFiles(const Element& E)
+{
+    return E.Id == clpTileSet.Id || E.Id == clpTileSample.Id;
+}
+
+static bool NeedsForm(const Element& E)
+{
+    return E.Shows.Kind == PictureKind::Form ||
+           (E.Kind == ElementKind::Store && !FilledFromFiles(E));
+}
+
+class ScreenPictures : public testing::Test
+{
+protected:
+    void SetUp() override { InitElements(); }
+};
+
+TEST_F(ScreenPictures, EveryElementThatNeedsOneHasAPictureOfTwiceItsSize)
+{
+    for (const Element& E : Elements) {
+        if (!NeedsForm(E)) continue;
+        const std::string Name = ElementText(E);
+        const auto Row = Index().find(Name);
+        ASSERT_NE(Row, Index().end()) << Name << " has no picture";
+        EXPECT_EQ(Row->second.Box.width(), std::lround(E.Width * Sharpness)) << Name;
+        EXPECT_EQ(Row->second.Box.height(), std::lround(E.Height * Sharpness)) << Name;
+    }
+}
+
+TEST_F(ScreenPictures, EveryRowOfTheIndexIsAnElementAndLiesOnItsSheet)
+{
+    std::set<std::string> Known;
+    for (const Element& E : Elements) Known.insert(ElementText(E));
+    for (const auto& [Name, Row] : Index()) {
+        EXPECT_TRUE(Known.count(Name)) << Name;
+        const QImage& Sheet = FileImage(QString("FM%1").arg(Row.Sheet, 4, 10, QChar('0')));
+        EXPECT_TRUE(Sheet.rect().contains(Row.Box)) << Name << " leaves sheet " << Row.Sheet;
+    }
+}
+
+static double Share(const QImage& Image, int Step, bool (*Test)(QRgb))
+{
+    int Count = 0, Hits = 0;
+    for (int Y = 0; Y < Image.height(); Y += Step)
+        for (int X = 0; X < Image.width(); X += Step, ++Count) Hits += Test(Image.pixel(X, Y));
+    return Count ? double(Hits) / Count : 0;
+}
+
+TEST_F(ScreenPictures, NoPictureIsEmpty)
+{
+    for (const auto& [Name, Row] : Index())
+        EXPECT_GT(Share(FormImage(Name), 1, [](QRgb C) { return qAlpha(C) > 128; }), .02) << Name;
+}
+
+TEST_F(ScreenPictures, CellsOfAStoreDiffer)
+{
+    for (const ElementId Id : {clpDigits.Id, clpBlueDigitsA.Id, clpNotes.Id, clpButGroupOff.Id}) {
+        const Element& Store = Elements[Id];
+        const QImage Whole = FormImage(Store.Name);
+        const int W = Whole.width() / Store.Columns, H = Whole.height() / Store.Rows;
+        std::vector<QImage> Cells;
+        for (int I = 0; I < Store.Columns * Store.Rows; ++I) {
+            Cells.push_back(Whole.copy(I % Store.Columns * W, I / Store.Columns * H, W, H));
+            for (int K = 0; K < I; ++K)
+                EXPECT_NE(Cells[std::size_t(K)], Cells[std::size_t(I)])
+                    << Store.Name << " " << K << " and " << I;
+        }
+    }
+}
+
+static double MeanSaturation(const QImage& Image)
+{
+    double Sum = 0;
+    int Count = 0;
+    for (int Y = 0; Y < Image.height(); Y += 2)
+        for (int X = 0; X < Image.width(); X += 2) {
+            const QColor C = QColor::fromRgba(Image.pixel(X, Y));
+            if (C.alpha() < 128) continue;
+            Sum += C.hsvSaturationF() * C.valueF();
+            ++Count;
+        }
+    return Count ? Sum / Count : 0;
+}
+
+// What a covering picture leaves open would show the button under it.
+TEST_F(ScreenPictures, DisabledPicturesCoverTheirButtonsAndAreDuller)
+{
+    const std::map<std::string, std::string> Covered = {{"imgEndDIS", "imgbutEnd"}};
+    int Pairs = 0;
+    for (const Element& E : Elements) {
+        const std::string Name = ElementText(E);
+        if (!Name.ends_with("DIS")) continue;
+        const auto Other = Covered.find(Name);
+        const std::string Button =
+            Other == Covered.end() ? Name.substr(0, Name.size() - 3) : Other->second;
+        const QImage Off = FormImage(Name), On = FormImage(Button);
+        ASSERT_EQ(Off.size(), On.size()) << Name;
+        int Open = 0;
+        for (int Y = 0; Y < On.height(); ++Y)
+            for (int X = 0; X < On.width(); ++X)
+                Open += qAlpha(On.pixel(X, Y)) > qAlpha(Off.pixel(X, Y)) + 60;
+        EXPECT_EQ(Open, 0) << Name << " leaves pixels of " << Button << " open";
+        EXPECT_LT(MeanSaturation(Off), MeanSaturation(On)) << Name;
+        ++Pairs;
+    }
+    EXPECT_EQ(Pairs, 16);
+}
+
+TEST_F(ScreenPictures, GroundsAndHelpPagesFillTheScreen)
+{
+    for (const char* Prefix : {"EN", "HP"})
+        for (int I = 1; I <= 5; ++I) {
+            const QString Name = QString("%1%2").arg(Prefix).arg(I, 4, 10, QChar('0'));
+            EXPECT_EQ(FileImage(Name).size(), QSize(1024, 768)) << Name.toStdString();
+        }
+}
+
+// --- contrast of labels ---
+
+static double Part(double Value)
+{
+    return Value <= .03928 ? Value / 12.92 : std::pow((Value + .055) / 1.055, 2.4);
+}
+static double Luminance(const QColor& C)
+{
+    return .2126 * Part(C.redF()) + .7152 * Part(C.greenF()) + .0722 * Part(C.blueF());
+}
+static double Contrast(const QColor& A, const QColor& B)
+{
+    const double La = Luminance(A), Lb = Luminance(B);
+    return (std::max(La, Lb) + .05) / (std::min(La, Lb) + .05);
+}
+
+static QColor MeanColour(const QImage& Image, const QRectF& Where)
+{
+    const QRect Box = Where.toAlignedRect().intersected(Image.rect());
+    double R = 0, G = 0, B = 0;
+    for (int Y = Box.top(); Y <= Box.bottom(); ++Y)
+        for (int X = Box.left(); X <= Box.right(); ++X) {
+            const QRgb C = Image.pixel(X, Y);
+            R += qRed(C);
+            G += qGreen(C);
+            B += qBlue(C);
+        }
+    const double Count = Box.width() * Box.height();
+    return QColor(int(R / Count), int(G / Count), int(B / Count));
+}
+
+struct Ground {
+    const Element* Panel;
+    const char* File; // of DATA, or nullptr: the panel's own picture
+};
+
+static QColor ColourUnder(const Element& Label, const Ground& On)
+{
+    double X = Label.Left, Y = Label.Top;
+    for (const Element* Up = &Elements[Label.Panel]; Up != On.Panel; Up = &Elements[Up->Panel]) {
+        X += Up->Left;
+        Y += Up->Top;
+    }
+    const double Scale = On.File ? 1 : Sharpness;
+    const QImage Image = On.File ? FileImage(On.File) : FormImage(ElementText(*On.Panel));
+    return MeanColour(Image,
+                      QRectF(X * Scale, Y * Scale, Label.Width * Scale, Label.Height * Scale));
+}
+
+static bool StandsOn(const Element& E, const Element& Panel)
+{
+    for (const Element* Up = &E; Up->Panel != NoElement; Up = &Elements[Up->Panel])
+        if (Up->Panel == Panel.Id) return true;
+    return false;
+}
+
+static bool IsShadow(const Element& E) // a dark label behind its text
+{
+    const std::string Name = E.Name;
+    return E.Ink.Red < 16 && (E.Index == 1 || Name.ends_with("Shadow") || Name.ends_with("_S"));
+}
+
+TEST_F(ScreenPictures, LabelsStandOutFromTheirGround)
+{
+    const Ground Grounds[] = {
+        {&picOptions, "EN0001"}, {&picHistory, "EN0002"},     {&picScores, "EN0003"},
+        {&picProfile, "EN0004"}, {&picLayouts, "EN0005"},     {&picHelp, "HP0004"},
+        {&picMenu, nullptr},     {&picGamePanel(3), nullptr}, {&picBevelRight, nullptr},
+    };
+    int Labels = 0;
+    std::set<ElementId> Seen;
+    for (const Ground& On : Grounds)
+        for (const Element& E : Elements) {
+            if (E.Kind != ElementKind::Label || IsShadow(E) || !StandsOn(E, *On.Panel)) continue;
+            if (StandsOn(E, picNote) || !Seen.insert(E.Id).second) continue;
+            if (std::string(E.Name) == "lblLayoutName" && E.Index >= 12) continue; // shadows
+            if (E.Font.Size == 0) continue;
+            const QColor Text(E.Ink.Red, E.Ink.Green, E.Ink.Blue);
+            EXPECT_GE(Contrast(Text, ColourUnder(E, On)), EnoughContrast)
+                << ElementText(E) << " on " << ColourUnder(E, On).name().toStdString();
+            ++Labels;
+        }
+    EXPECT_GT(Labels, 250);
+}
+
+TEST_F(ScreenPictures, ColoursThatRulesSetStandOutToo)
+{
+    const Ground Scores{&picScores, "EN0003"}, Profile{&picProfile, "EN0004"},
+        Word{&picGamePanel(3), nullptr};
+    // Black and yellow share a ground: no ground gives both more than 4.42, black comes first.
+    for (int I = 1; I <= 10; ++I)
+        EXPECT_GE(Contrast(QColor(255, 255, 0), ColourUnder(lblScrName(I), Scores)), 4.1) << I;
+    for (int I = 1; I <= 10; ++I)
+        EXPECT_GE(Contrast(QColor(255, 255, 0), ColourUnder(lblProScore(I), Profile)),
+                  EnoughContrast);
+    EXPECT_GE(Contrast(QColor(255, 0, 0), ColourUnder(lblWord, Word)), EnoughContrast);
+}
+
+TEST_F(ScreenPictures, NumbersStandOutFromTheirNotes)
+{
+    const QImage Notes = FormImage("clpNotes");
+    const Colour Bonus = lblBonus(0).Ink;
+    for (const int Note : {6, 7, 8, 11}) {
+        const QRectF Where(8 * Sharpness, (80 * Note + 44) * Sharpness, 160 * Sharpness,
+                           26 * Sharpness);
+        const QColor Paper = MeanColour(Notes, Where);
+        EXPECT_GE(Contrast(QColor(Bonus.Red, Bonus.Green, Bonus.Blue), Paper), EnoughContrast);
+        // Nothing is drawn where the number goes.
+        double Darkest = 1;
+        const QRect Room = Where.toAlignedRect();
+        for (int Y = Room.top(); Y < Room.bottom(); ++Y)
+            for (int X = Room.left(); X < Room.right(); ++X)
+                Darkest = std::min(Darkest, Luminance(QColor(Notes.pixel(X, Y))));
+        EXPECT_GT(Darkest, .4) << "note " << Note;
+    }
+}
+
+// --- room for texts ---
+
+static double TextWidth(const Element& E, const QString& Text, int Size)
+{
+    QFont Font(E.Font.Face == FontFace::Serif ? "DejaVu Serif" : "DejaVu Sans");
+    Font.setPixelSize(Size);
+    Font.setBold(E.Font.Bold);
+    return QFontMetricsF(Font).horizontalAdvance(Text);
+}
+
+TEST_F(ScreenPictures, NoLabelIsUnderTwelvePixels)
+{
+    for (const Element& E : Elements)
+        if (E.Kind == ElementKind::Label) {
+            EXPECT_GE(E.Font.Size, 12) << ElementText(E);
+        }
+}
+
+TEST_F(ScreenPictures, CaptionsFitTheirLabels)
+{
+    int Captions = 0;
+    for (const Element& E : Elements) {
+        if (E.Kind != ElementKind::Label || E.Caption.empty()) continue;
+        EXPECT_LE(TextWidth(E, QString::fromStdString(E.Caption), E.Font.Size), E.Width)
+            << ElementText(E) << " \"" << E.Caption << '"';
+        ++Captions;
+    }
+    EXPECT_GT(Captions, 40);
+}
+
+// The longest texts that the rules allow, at 12 px or more.
+TEST_F(ScreenPictures, LongestTextsStillRead)
+{
+    const QString Name(12, 'W');
+    const std::pair<const Element*, QString> Texts[] = {
+        {&lblScrName(1), Name},
+        {&lblHisName(0), Name},
+        {&lblScrScore(1), "32767"},
+        {&lblHisScore(0), "32767"},
+        {&lblScore(0), "32767"},
+        {&lblProScore(1), "99999"},
+        {&lblStatA(10), Name.toLower()},
+        {&lblStatB(10), Name.toLower()},
+        {&lblTotalPlayed(0), "32767"},
+        {&lblTotalWon(0), "100%"},
+        {&lblWord, QString(12, 'W')},
+        {&lblGraphScore(0), "32767  " + Name.toLower()},
+        {&lblBonus(0), "22+"},
+        {&lblTileSet, "Buildings Historical"},
+        {&lblBackDrop, "Floral Textile (25)"},
+        {&lblOptionsNote, "You must end your current game before changing game types"},
+        {&lblNote(0), "Your desktop display setting must be higher then 1024x768 to switch to "
+                      "Window Mode"},
+    };
+    for (const auto& [E, Text] : Texts)
+        EXPECT_LE(TextWidth(*E, Text, 12), E->Width) << ElementText(*E);
+}
+
+TEST_F(ScreenPictures, LayoutNamesFitWhereverTheyStand)
+{
+    QFile File(Data + "LY0000");
+    ASSERT_TRUE(File.open(QIODevice::ReadOnly));
+    int Names = 0;
+    for (const QString& Line : QString::fromUtf8(File.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        const QString Name = Line.mid(4).trimmed(); // after the offsets
+        for (const Element* E : {&lblLayoutMain(0), &lblLayoutName(0), &lblHisLayout(0),
+                                 &lblScrTitle, &lblGraphLayout(0), &lblStatA(9), &lblStatB(9)})
+            EXPECT_LE(TextWidth(*E, Name, 12), E->Width) << Name.toStdString();
+        ++Names;
+    }
+    EXPECT_EQ(Names, 360);
+}
+
+TEST_F(ScreenPictures, LabelsOfAPanelDoNotOverlap)
+{
+    for (const Element& A : Elements)
+        for (const Element& B : Elements) {
+            if (B.Id <= A.Id || A.Panel != B.Panel || A.Panel == NoElement) continue;
+            if (A.Kind != ElementKind::Label || B.Kind != ElementKind::Label) continue;
+            if (IsShadow(A) || IsShadow(B)) continue;
+            if (std::string(A.Name) == B.Name && std::string(A.Name) == "lblLayoutName") continue;
+            const QRectF BoxA(A.Left, A.Top, A.Width, A.Height),
+                BoxB(B.Left, B.Top, B.Width, B.Height);
+            EXPECT_FALSE(BoxA.intersects(BoxB)) << ElementText(A) << " and " << ElementText(B);
+        }
+}
+
+int main(int Count, char** Arguments)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication App(Count, Arguments);
+    for (const char* Font : {"DejaVuSans", "DejaVuSans-Bold", "DejaVuSerif", "DejaVuSerif-Bold"})
+        QFontDatabase::addApplicationFont(
+            QString("/usr/share/fonts/truetype/dejavu/%1.ttf").arg(Font));
+    testing::InitGoogleTest(&Count, Arguments);
+    return RUN_ALL_TESTS();
+}
