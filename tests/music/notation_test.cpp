@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -19,9 +21,20 @@ const std::string Head = "title Test\n"                   // line 1
 
 Score Read(const std::string& Text)
 {
-    const auto Path = std::filesystem::temp_directory_path() / "07-notation-test.txt";
+    // Tests run side by side: each has a folder of its own.
+    const auto Folder =
+        std::filesystem::temp_directory_path() / ("pagodas-notation-" + std::to_string(getpid()));
+    std::filesystem::create_directories(Folder);
+    const auto Path = Folder / "07-notation-test.txt";
     std::ofstream(Path) << Text;
-    return ReadScore(Path.string());
+    try {
+        Score Result = ReadScore(Path.string());
+        std::filesystem::remove_all(Folder);
+        return Result;
+    } catch (...) {
+        std::filesystem::remove_all(Folder);
+        throw;
+    }
 }
 
 std::string ErrorOf(const std::string& Text)

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -43,8 +45,9 @@ double Summed(const std::string& Report, const std::string& Label)
 Measured Measure(const std::string& Path)
 {
     Measured Result;
-    const auto ReportPath = std::filesystem::temp_directory_path() /
-                            ("pagodas-" + std::filesystem::path(Path).filename().string() + ".log");
+    const auto ReportPath =
+        std::filesystem::temp_directory_path() / ("pagodas-" + std::to_string(getpid()) + "-" +
+                                                  std::filesystem::path(Path).filename().string());
     const std::string Command =
         "ffmpeg -hide_banner -nostats -i '" + Path +
         "' -af ebur128=peak=true:framelog=verbose,aresample=44100 -ac 2 -f f32le - 2>'" +
