@@ -50,7 +50,9 @@ wait_for_end
 cp "$WORK/game/Settings.dat" "$WORK/saved"
 start_game
 shot second-idle
-xdotool key alt+F4   # the window manager asks the window to close
+xdotool search --name "^Pagodas\$" windowactivate --sync
+sleep 0.3
+xdotool key alt+F4 # the window manager asks the window to close
 wait_for_end
 cmp -s "$WORK/game/Settings.dat" "$WORK/saved" || fail "the desktop's close wrote the settings"
 echo "the first game went well"
