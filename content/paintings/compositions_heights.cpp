@@ -430,10 +430,12 @@ void PaintPerch(Scene& P)
     for (int I = 0; I < 8; ++I)
         PaintTree(P, P.Snow ? Tree::Fir : Tree::Pine, X + AnyBell(P.C) * Half * 1.2f,
                   Top + Any(P.C, 16, 150), Any(P.C, 24, 46), 0.2f);
-    Line Steps;
-    for (int I = 0; I < 9; ++I)
-        Steps.push_back({X + (I % 2 ? -0.6f : 0.6f) * Half, Top + 14 + 25 * float(I)});
-    Stroke(P.C, Steps, 1.6f, 3.4f, Lit(P, Hex(0xdccfb4), 0.8f, 0.15f), 0.9f);
+    Line Steps; // a path in turns, hardly more than a scratch in the rock
+    for (int I = 0; I < 7; ++I)
+        Steps.push_back({X - Half * 0.25f + (I % 2 ? -0.35f : 0.3f) * Half * Any(P.C, 0.6f, 1.0f),
+                         Top + 14 + 20 * float(I) + Any(P.C, -6, 6)});
+    Stroke(P.C, Curve(Steps, 6), 0.8f, 1.8f, Lit(P, Times(RockColour(P), 1.25f), 0.7f, 0.15f),
+           0.6f);
     PaintFall(P, X + Half * 0.5f, Top + 30, 400, 13, 0.25f);
     PaintMist(P, 400, 46, 0.85f, 1.4f);
     P.Horizon = 220;

@@ -186,15 +186,12 @@ void PaintBay(Scene& P)
     Land.lineTo(760, Height + 30);
     const Mask Area = MaskOf(Land);
     PaintMeadow(P, &Area, H + 10, GroundColour(P), GroundColour(P), 1);
-    for (std::size_t I = 0; I + 1 < Bow.size(); ++I)
-        for (int K = 0; K < 7; ++K) {
-            const float T = Any(P.C), Near = (Bow[I].Y - H) / (Height - H);
-            const float X = Lerp(Bow[I].X, Bow[I + 1].X, T), Y = Lerp(Bow[I].Y, Bow[I + 1].Y, T);
-            Dab(P.C, X + Any(P.C, 2, 8 + 50 * Near), Y + Any(P.C, 0, 5), 10 + 26 * Near,
-                3 + 5 * Near, 0.1f,
-                Lit(P, Times(Hex(0xecd8ac), Any(P.C, 0.85f, 1.1f)), 0.75f, 0.4f * (1 - Near)),
-                0.85f);
-        }
+    for (int I = 0; I < 4; ++I) { // the sand along it, drawn with a brush that broadens
+        Line Sand = Bow;
+        for (Point& K : Sand) K.X += (2 + 24 * (K.Y - H) / (Height - H)) * (0.5f + 0.3f * float(I));
+        Stroke(P.C, Sand, 2, 17,
+               Lit(P, Times(Hex(0xecd8ac), 1.04f - 0.05f * float(I)), 0.75f, 0.15f), 0.7f);
+    }
     PaintSurf(P, {{600, H + 66}, {450, H + 108}, {350, H + 170}, {330, H + 240}}, 12);
     Village(P, 500, 720, H + 92, 20, 9, 0.5f);
     PaintMotif(P, P.Plan.Motif, Any(P.C, 560, 650), H + 128, 90, 0.3f);

@@ -83,7 +83,7 @@ void PaintOpenSea(Scene& P)
             Rock(P, RX, RY, Any(P.C, 14, 30) * (0.6f + 1.8f * T), 0.5f * (1 - T));
             PaintSurf(
                 P, {{RX - 60 * (0.4f + T), RY + 3}, {RX, RY + 6}, {RX + 60 * (0.4f + T), RY + 2}},
-                8);
+                2.5f);
         }
     }
     Boat(P, P.Seed % 3 == 0 ? "junk" : "sail", Any(P.C, 440, 620), H + Any(P.C, 30, 80),
