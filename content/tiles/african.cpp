@@ -241,8 +241,8 @@ static void DrawPot(QPainter& G, const African& Own)
     FillBox(G, 0, 0, 100, 100, Own.Cols[0]);
     for (int I = 0; const double Y : {34, 54, 72}) {
         FillBox(G, 0, Y - 7, 100, 14, Own.Cols[1]);
-        const QString Md = Text(Own.R, "m", "zig");
-        if (Md == "zig") {
+        const QString Motif = Text(Own.R, "m", "zig");
+        if (Motif == "zig") {
             Fill(
                 G,
                 Polygon(Joined(
@@ -250,18 +250,18 @@ static void DrawPot(QPainter& G, const African& Own)
                     Points{{111, Y + 9}, {-3, Y + 9}})),
                 Cycled(Own.Cols, 2));
         }
-        if (Md == "dots")
+        if (Motif == "dots")
             for (int J = 0; J < 10; ++J) Fill(G, Circle(5 + J * 10, Y, 3.4), Cycled(Own.Cols, 2));
-        if (Md == "tri")
+        if (Motif == "tri")
             for (int J = 0; J < 10; ++J)
                 Fill(G, Triangle(5 + J * 11, Y, 5, I % 2 ? 1 : -1), Cycled(Own.Cols, 2));
-        if (Md == "waves") {
+        if (Motif == "waves") {
             Stroke(
                 G,
                 Curve(PointRow(14, [&](int J) { return QPointF(J * 8.0, Y + (J % 2 ? 4 : -4)); })),
                 Cycled(Own.Cols, 2), 3);
         }
-        if (Md == "diam") {
+        if (Motif == "diam") {
             for (int J = 0; J < 8; ++J) {
                 Fill(G,
                      Polygon({{6.0 + J * 13, Y - 6},

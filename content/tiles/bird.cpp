@@ -182,16 +182,16 @@ static void DrawTail(QPainter& G, const Bird& Own, double X, double Y)
 
 static void DrawCrest(QPainter& G, const Bird& Own, double X, double Y)
 {
-    const QString Cr = Text(Own.R, "crest");
+    const QString Crest = Text(Own.R, "crest");
     const QColor Tone = Colour(Own.R, "cc", Own.Tint);
-    if (Cr == "point")
+    if (Crest == "point")
         Outline(G, Polygon({{X - 6, Y + 4}, {X + 14, Y - 14}, {X + 8, Y + 6}}), Tone,
                 Dark(Tone, .5), 1.3);
-    if (Cr == "fan")
+    if (Crest == "fan")
         for (const double A : {-30, -6, 18, 42, 66})
             Outline(G, Moved(ClosedCurve({{0, 0}, {3, -12}, {0, -20}, {-3, -12}}), X + 2, Y + 5, A),
                     Tone, Dark(Tone, .45), 1);
-    if (Cr == "hoopoe") {
+    if (Crest == "hoopoe") {
         for (const double A : {-40, -16, 8, 32, 56, 78}) {
             Outline(
                 G, Moved(ClosedCurve({{0, 0}, {3.4, -14}, {0, -25}, {-3.4, -14}}), X + 2, Y + 6, A),
@@ -199,7 +199,7 @@ static void DrawCrest(QPainter& G, const Bird& Own, double X, double Y)
             Fill(G, Moved(Circle(0, -22, 2.4), X + 2, Y + 6, A), "#1a1a1a");
         }
     }
-    if (Cr == "comb")
+    if (Crest == "comb")
         Outline(G,
                 ClosedCurve({{X - 8, Y + 4},
                              {X - 9, Y - 5},
@@ -210,7 +210,7 @@ static void DrawCrest(QPainter& G, const Bird& Own, double X, double Y)
                              {X + 10, Y + 6}},
                             .7),
                 "#e01c1c", "#6a0808", 1.3);
-    if (Cr == "crown") {
+    if (Crest == "crown") {
         for (const double V : {-150, -125, -100, -75, -50, -25, 0}) {
             const double A = Radians(V);
             StrokeLine(G, X + 4, Y + 4, X + 4 + 15 * std::cos(A), Y + 4 + 15 * std::sin(A),
@@ -219,7 +219,7 @@ static void DrawCrest(QPainter& G, const Bird& Own, double X, double Y)
                     "#7a5a10", .7);
         }
     }
-    if (Cr == "dots") {
+    if (Crest == "dots") {
         for (const double O : {-6, 0, 6}) {
             StrokeLine(G, X + 2, Y + 3, X + 2 + O, Y - 13, "#1c4ab0", 1.4);
             Outline(G, Circle(X + 2 + O, Y - 14, 2.4), "#2ab86a", "#0a3a1a", .8);
@@ -264,70 +264,74 @@ static void DrawPerch(QPainter& G, const Bird& Own)
     const double Rx = Number(Own.R, "rx", 26);
     const double Ry = Number(Own.R, "ry", 19);
     const double Rot = Number(Own.R, "rot", 22);
-    double Hr = Number(Own.R, "hr", 14.5);
-    double Hx = Number(Own.R, "hx", 31);
-    double Hy = Number(Own.R, "hy", 34);
+    double HeadSize = Number(Own.R, "hr", 14.5);
+    double HeadX = Number(Own.R, "hx", 31);
+    double HeadY = Number(Own.R, "hy", 34);
     DrawTail(G, Own, Bx + Rx * .75, By + Ry * .35 + 6);
     DrawLegs(G, Own, Bx - 6, By + Ry - 3, Number(Own.R, "leg", 14));
     const QPainterPath Body = Ellipse(Bx, By, Rx, Ry, Rot)
-                                  .united(Circle(Hx, Hy, Hr))
-                                  .united(ClosedCurve({{Hx - Hr * .8, Hy + 4},
-                                                       {Hx + Hr * .9, Hy - 4},
+                                  .united(Circle(HeadX, HeadY, HeadSize))
+                                  .united(ClosedCurve({{HeadX - HeadSize * .8, HeadY + 4},
+                                                       {HeadX + HeadSize * .9, HeadY - 4},
                                                        {Bx + 6, By - Ry * .7},
                                                        {Bx - Rx * .6, By + Ry * .7}},
                                                       .5));
-    Outline(G, Body, Radial(Hx + 4, Hy, 70, {Light(Own.Tint, .25), Own.Tint, Dark(Own.Tint, .1)}),
+    Outline(G, Body,
+            Radial(HeadX + 4, HeadY, 70, {Light(Own.Tint, .25), Own.Tint, Dark(Own.Tint, .1)}),
             Own.Edge, 1.8);
     DrawMarks(G, Own, Body, Bx - Rx, By - Ry, Bx + Rx, By + Ry + 6);
     if (Own.HeadTint != Own.Tint) {
         G.save();
         G.setClipPath(Body);
         Fill(G,
-             Ellipse(Hx, Hy - (Has(Own.R, "cap") ? 4 : 0), Hr + 1,
-                     Has(Own.R, "cap") ? Hr * .72 : Hr + 1),
+             Ellipse(HeadX, HeadY - (Has(Own.R, "cap") ? 4 : 0), HeadSize + 1,
+                     Has(Own.R, "cap") ? HeadSize * .72 : HeadSize + 1),
              Own.HeadTint);
         G.restore();
     }
     if (Has(Own.R, "face")) {
         G.save();
-        G.setClipPath(Circle(Hx, Hy, Hr));
-        Fill(G, Ellipse(Hx - 6, Hy + 3, Hr * .8, Hr * .7), Colour(Own.R, "face"));
+        G.setClipPath(Circle(HeadX, HeadY, HeadSize));
+        Fill(G, Ellipse(HeadX - 6, HeadY + 3, HeadSize * .8, HeadSize * .7), Colour(Own.R, "face"));
         G.restore();
     }
     if (Has(Own.R, "mask")) {
         G.save();
         G.setClipPath(Body);
-        StrokeLine(G, Hx - Hr, Hy, Hx + 8, Hy - 1, Colour(Own.R, "mask"), 6.4);
+        StrokeLine(G, HeadX - HeadSize, HeadY, HeadX + 8, HeadY - 1, Colour(Own.R, "mask"), 6.4);
         G.restore();
     }
     if (Has(Own.R, "collar")) {
         G.save();
         G.setClipPath(Body);
-        Stroke(G, Curve({{Hx - Hr + 2, Hy + Hr - 2}, {Hx + 2, Hy + Hr + 3}, {Hx + Hr + 6, Hy + 4}}),
+        Stroke(G,
+               Curve({{HeadX - HeadSize + 2, HeadY + HeadSize - 2},
+                      {HeadX + 2, HeadY + HeadSize + 3},
+                      {HeadX + HeadSize + 6, HeadY + 4}}),
                Colour(Own.R, "collar"), 5);
         G.restore();
     }
-    DrawCrest(G, Own, Hx + 2, Hy - Hr + 1);
-    QPainterPath Wq = ClosedCurve({{Bx - 10, By - 10},
-                                   {Bx + 10, By - 12},
-                                   {Bx + Rx + 4, By + 8},
-                                   {Bx + Rx + 10, By + 17},
-                                   {Bx + 8, By + 12},
-                                   {Bx - 8, By + 6}},
-                                  .6);
-    Outline(G, Wq, Linear(Bx, By - 12, Bx + 20, By + 16, {Own.WingTint, Dark(Own.WingTint, .15)}),
+    DrawCrest(G, Own, HeadX + 2, HeadY - HeadSize + 1);
+    QPainterPath Wing = ClosedCurve({{Bx - 10, By - 10},
+                                     {Bx + 10, By - 12},
+                                     {Bx + Rx + 4, By + 8},
+                                     {Bx + Rx + 10, By + 17},
+                                     {Bx + 8, By + 12},
+                                     {Bx - 8, By + 6}},
+                                    .6);
+    Outline(G, Wing, Linear(Bx, By - 12, Bx + 20, By + 16, {Own.WingTint, Dark(Own.WingTint, .15)}),
             EdgeOf(Own.WingTint, .5, "#7d8088"), 1.5);
     G.save();
-    G.setClipPath(Wq);
+    G.setClipPath(Wing);
     if (Has(Own.R, "wb")) StrokeLine(G, Bx - 4, By + 8, Bx + 16, By - 12, Colour(Own.R, "wb"), 4);
     for (const double O : {0, 1, 2})
         StrokeLine(G, Bx - 4, By - 2 + O * 4, Bx + Rx + 8, By + 13 + O * 2,
                    Alpha(Dark(Own.WingTint, .4), .7), 1.3);
     G.restore();
-    DrawBeak(G, Own, Hx - Hr + 1, Hy + 1, Number(Own.R, "bs", 1));
-    DrawEye(G, Own, Hx - 4, Hy - 2, 3.6, Text(Own.R, "ring"));
+    DrawBeak(G, Own, HeadX - HeadSize + 1, HeadY + 1, Number(Own.R, "bs", 1));
+    DrawEye(G, Own, HeadX - 4, HeadY - 2, 3.6, Text(Own.R, "ring"));
     if (Has(Own.R, "wattle"))
-        Outline(G, Ellipse(Hx - Hr + 2, Hy + 10, 3.6, 6), "#e01c1c", "#6a0808", 1.1);
+        Outline(G, Ellipse(HeadX - HeadSize + 2, HeadY + 10, 3.6, 6), "#e01c1c", "#6a0808", 1.1);
     if (Has(Own.R, "branch")) {
         const QPainterPath Path = Tube({{10, 90, 2.4}, {40, 88, 3.4}, {92, 92, 2.4}});
         Outline(G, Path, "#7a4a22", "#3a2008", 1.2);
@@ -433,8 +437,8 @@ static void DrawSwim(QPainter& G, const Bird& Own)
     const bool Long = Has(Own.R, "long");
     const QPainterPath Neck = Long ? Tube({{44, 58, 9}, {32, 50, 6.4}, {26, 34, 5}, {32, 20, 5}})
                                    : Tube({{44, 58, 9}, {32, 50, 6.4}, {30, 40, 7}, {30, 32, 8}});
-    const double Hx = 30, Hy = Long ? 16 : 28, Hr = Long ? 9 : 11;
-    const QPainterPath Whole = Body.united(Neck).united(Circle(Hx, Hy, Hr));
+    const double HeadX = 30, HeadY = Long ? 16 : 28, HeadSize = Long ? 9 : 11;
+    const QPainterPath Whole = Body.united(Neck).united(Circle(HeadX, HeadY, HeadSize));
     Outline(G, Whole, Radial(50, 50, 60, {Light(Own.Tint, .25), Own.Tint, Dark(Own.Tint, .12)}),
             Own.Edge, 1.8);
     DrawMarks(G, Own, Whole, 26, 50, 90, 76);
@@ -453,17 +457,17 @@ static void DrawSwim(QPainter& G, const Bird& Own)
                    Colour(Own.R, "collar"), 3.4);
         G.restore();
     }
-    QPainterPath Wq = ClosedCurve({{46, 50}, {66, 46}, {88, 50}, {94, 56}, {70, 66}, {52, 62}});
-    Outline(G, Wq, Own.WingTint, EdgeOf(Own.WingTint, .5, "#7d8088"), 1.5);
+    QPainterPath Wing = ClosedCurve({{46, 50}, {66, 46}, {88, 50}, {94, 56}, {70, 66}, {52, 62}});
+    Outline(G, Wing, Own.WingTint, EdgeOf(Own.WingTint, .5, "#7d8088"), 1.5);
     if (Has(Own.R, "wb")) {
         G.save();
-        G.setClipPath(Wq);
+        G.setClipPath(Wing);
         StrokeLine(G, 66, 44, 74, 68, Colour(Own.R, "wb"), 6);
         G.restore();
     }
-    DrawBeak(G, Own, Hx - Hr + 1, Hy + 2, Number(Own.R, "bs", .9));
-    DrawEye(G, Own, Hx - 3, Hy - 2, 3.2);
-    DrawCrest(G, Own, Hx, Hy - Hr);
+    DrawBeak(G, Own, HeadX - HeadSize + 1, HeadY + 2, Number(Own.R, "bs", .9));
+    DrawEye(G, Own, HeadX - 3, HeadY - 2, 3.2);
+    DrawCrest(G, Own, HeadX, HeadY - HeadSize);
     Stroke(G, Curve({{12, 76}, {28, 72}, {44, 77}, {60, 72}, {76, 77}, {94, 73}}), "#3a9ad8", 3);
 }
 

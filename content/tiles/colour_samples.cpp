@@ -10,6 +10,27 @@ struct ColourSample {
     QColor Edge;
 };
 
+// Each colour also has a sign of its own, for eyes that tell colours badly.
+static void DrawMark(QPainter& G, const ColourSample& Own, double X, double Y, double Size)
+{
+    const QMap<QString, QPainterPath> Marks = {
+        {"circle", Circle(0, 0, .9)},
+        {"triangle", Regular(0, .2, 1.15, 3)},
+        {"star", Star(0, 0, 1.2)},
+        {"square", Box(-.85, -.85, 1.7, 1.7)},
+        {"diamond", Polygon({{0, -1.2}, {.8, 0}, {0, 1.2}, {-.8, 0}})},
+        {"cross", Star(0, 0, 1.2, 4, .35)},
+        {"heart",
+         ClosedCurve({{0, -.45}, {.6, -.95}, {1.05, -.35}, {0, 1.05}, {-1.05, -.35}, {-.6, -.95}},
+                     .6)},
+        {"moon", Circle(0, 0, 1).subtracted(Circle(.55, -.25, .85))},
+        {"bars", Box(-1, -.85, 2, .65).united(Box(-1, .2, 2, .65))},
+    };
+    const QString Name = Text(Own.R, "mark");
+    if (!Marks.contains(Name)) FatalError(Own.R.Place + ": no mark is called " + Quoted(Name));
+    Outline(G, Moved(Marks[Name], X, Y, 0, Size), "#ffffff", Dark(Own.Tint, .55), 1.6);
+}
+
 static void DrawSplat(QPainter& G, const ColourSample& Own)
 {
     Points Pts;
@@ -22,7 +43,7 @@ static void DrawSplat(QPainter& G, const ColourSample& Own)
     QPainterPath Path = ClosedCurve(Pts, .8);
     Outline(G, Path, Radial(40, 36, 60, {Light(Own.Tint, .35), Own.Tint, Dark(Own.Tint, .12)}),
             Own.Edge, 1.8);
-    Fill(G, Ellipse(38, 34, 9, 5, -30), Alpha("#ffffff", .55));
+    DrawMark(G, Own, 50, 50, 15);
 }
 
 static void DrawTube(QPainter& G, const ColourSample& Own)
@@ -34,6 +55,7 @@ static void DrawTube(QPainter& G, const ColourSample& Own)
             Linear(30, 0, 70, 0, {"#c8d0d8", "#ffffff", "#aab4be"}), "#5a6470", 1.6);
     Outline(G, Rounded(26, 0, 48, 7, 2), "#b8c0c8", "#5a6470", 1.3);
     Outline(G, Polygon({{30.5, 22}, {69.5, 22}, {67, 58}, {33, 58}}), Own.Tint, Own.Edge, 1.3);
+    DrawMark(G, Own, 50, 40, 11);
     Outline(G, Rounded(42, 70, 16, 8, 1), "#3a3f46", "#111", 1.2);
     QPainterPath Path = ClosedCurve({{46, 78},
                                      {54, 78},
@@ -62,8 +84,9 @@ static void DrawCrayon(QPainter& G, const ColourSample& Own)
         StrokeLine(G, 37, Y, 63, Y,
                    Own.Tint.lightness() > 60 ? QColor("#1a1a1a") : QColor("#ffffff"), 2.4);
     }
-    Outline(G, Ellipse(50, 61, 8, 16),
+    Outline(G, Ellipse(50, 61, 11, 16),
             Own.Tint.lightness() < 200 ? Light(Own.Tint, .55) : QColor("#fff6c0"), Own.Edge, 1.3);
+    DrawMark(G, Own, 50, 61, 8);
 }
 
 static void DrawGem(QPainter& G, const ColourSample& Own)
@@ -81,6 +104,7 @@ static void DrawGem(QPainter& G, const ColourSample& Own)
                                {{{62, 30}, {80, 30}, {50, 90}}, -.25}})
         Outline(G, Polygon(Pts), F > 0 ? Light(Own.Tint, F) : Dark(Own.Tint, -F), Own.Edge, 1.1);
     Fill(G, Polygon({{42, 18}, {50, 18}, {44, 26}, {40, 26}}), Alpha("#ffffff", .7));
+    DrawMark(G, Own, 50, 44, 11);
 }
 
 static constexpr FigureRow<const ColourSample> Figures[] = {

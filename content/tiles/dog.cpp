@@ -53,9 +53,9 @@ static void Ears(QPainter& G, const Dog& Own, bool Front)
         QPainterPath Path = Polygon(Corners);
         Both(G, Own, Path, Own.Ear, Edge);
         const QPointF Middle = (Corners[0] + Corners[1] + Corners[2] + Corners[3]) / 4;
-        const QPainterPath Inn =
+        const QPainterPath Inner =
             Moved(Path.translated(-Middle), Middle.x() + 1, Middle.y() + 1, 0, .55);
-        Both(G, Own, Inn, Colour(Own.R, "inear", "#e8b7a4"), Qt::transparent);
+        Both(G, Own, Inner, Colour(Own.R, "inear", "#e8b7a4"), Qt::transparent);
     }
     if (E == "bat" && !Front) {
         QPainterPath Path = ClosedCurve({{22, 44}, {6, 22}, {7, 2}, {20, 2}, {36, 14}, {46, 28}});
@@ -345,11 +345,11 @@ static void DrawMuzzle(QPainter& G, const Dog& Own)
     Path.lineTo(50, NoseY + NoseSize * 1.9);
     Stroke(G, Path, Own.MuzzleTint.lightness() > 70 ? QColor("#2a1e1c") : QColor("#8a8a90"), 1.5);
     QPainterPath Mouth;
-    const double Yy = NoseY + NoseSize * 1.9;
-    Mouth.moveTo(50, Yy);
-    Mouth.quadTo(56, Yy + 6, 63, Yy + 1);
-    Mouth.moveTo(50, Yy);
-    Mouth.quadTo(44, Yy + 6, 37, Yy + 1);
+    const double MouthY = NoseY + NoseSize * 1.9;
+    Mouth.moveTo(50, MouthY);
+    Mouth.quadTo(56, MouthY + 6, 63, MouthY + 1);
+    Mouth.moveTo(50, MouthY);
+    Mouth.quadTo(44, MouthY + 6, 37, MouthY + 1);
     Stroke(G, Mouth, Own.MuzzleTint.lightness() > 70 ? QColor("#2a1e1c") : QColor("#8a8a90"), 1.5);
     if (Own.MuzzleKind == "jowl" && Has(Own.R, "teeth")) {
         Outline(G, Polygon({{40, 80}, {44, 73}, {46, 80}}), "#fffdf0", "#777", .6);

@@ -133,21 +133,21 @@ static void Centre(QPainter& G, const Flower& Own, double Cx, double Cy, double 
 static void DrawFront(QPainter& G, const Flower& Own)
 {
     const int Count = Whole(Own.R, "n", 5);
-    const QString Sh = Text(Own.R, "p", "round");
+    const QString PetalKind = Text(Own.R, "p", "round");
     const double L = Number(Own.R, "l", 46);
     const double W = Number(Own.R, "w", 22);
     if (Has(Own.R, "leaves"))
         for (const double A : {45, 135, 225, 315})
             Leaf(G, Own, 50 + 20 * std::sin(Radians(A)), 50 - 20 * std::cos(Radians(A)), 34, 11, A);
     if (Has(Own.R, "back")) {
-        Ring(G, Own, 50, 50, Count, Sh, L, W, Text(Own.R, "back"), Text(Own.R, "back"),
+        Ring(G, Own, 50, 50, Count, PetalKind, L, W, Text(Own.R, "back"), Text(Own.R, "back"),
              1.0 * 180 / Count);
     }
-    Ring(G, Own, 50, 50, Count, Sh, L, W, Own.C1, Own.Tint2, Number(Own.R, "rot", 0));
+    Ring(G, Own, 50, 50, Count, PetalKind, L, W, Own.C1, Own.Tint2, Number(Own.R, "rot", 0));
     for (int I = 1; I < Whole(Own.R, "layers", 1); ++I) {
         const double F = 1 - I * Number(Own.R, "shrink", .24);
-        Ring(G, Own, 50, 50, std::max<double>(4, Count - (Has(Own.R, "thin") ? I : 0)), Sh, L * F,
-             W * F, Has(Own.R, "fade") ? Mix(Own.C1, Own.Tint2, I * .16) : Own.C1, Own.Tint2,
+        Ring(G, Own, 50, 50, std::max<double>(4, Count - (Has(Own.R, "thin") ? I : 0)), PetalKind,
+             L * F, W * F, Has(Own.R, "fade") ? Mix(Own.C1, Own.Tint2, I * .16) : Own.C1, Own.Tint2,
              1.0 * 180 / Count * (I % 2) + Number(Own.R, "twist", 0) * I);
     }
     if (Has(Own.R, "ct") || Has(Own.R, "cc"))
@@ -229,7 +229,7 @@ static void DrawBell(QPainter& G, const Flower& Own)
 
 static void DrawSpray(QPainter& G, const Flower& Own)
 {
-    const QString Sp = Text(Own.R, "sp", "cone");
+    const QString SprayKind = Text(Own.R, "sp", "cone");
     Stem(G, Own, 50, 98, 50, 14, 3, "#4a9a3a", 0);
     if (Has(Own.R, "leafw")) {
         Leaf(G, Own, 50, 99, 70, Number(Own.R, "leafw", 12), -22);
@@ -239,12 +239,12 @@ static void DrawSpray(QPainter& G, const Flower& Own)
         QMap<QString, Points>{
             {"cone", {{14, 0}, {22, 1}, {30, 2}, {38, 2}, {46, 3}, {54, 3}, {62, 3}}},
             {"spike", {{8, 0}, {16, 1}, {24, 1}, {32, 1}, {40, 1}, {48, 1}, {56, 1}, {64, 1}}}}
-            .value(Sp);
+            .value(SprayKind);
     for (const auto& [Y, Count] : Rows) {
         const int Side = static_cast<int>(Count), Line = static_cast<int>(Y) / 8;
         for (int J = -Side; J <= Side; ++J) {
-            double X = 50 + J * (Sp == "cone" ? 9 : 8) + Line % 2 * 2;
-            double R = Sp == "cone" ? 6 : 6.2;
+            double X = 50 + J * (SprayKind == "cone" ? 9 : 8) + Line % 2 * 2;
+            double R = SprayKind == "cone" ? 6 : 6.2;
             for (int A = 0; A < 4; ++A) {
                 double T = Radians(A * 90 + 45);
                 Outline(G, Circle(X + R * .5 * std::cos(T), Y + R * .5 * std::sin(T), R * .55),

@@ -88,7 +88,7 @@ static const QMap<QString, Points> Faces = {{"oval",
 
 struct Mask {
     const Recipe& R;
-    QString Sh;
+    QString Shape;
     QColor Tint;
     QColor Tint2;
     QColor Tint3;
@@ -668,12 +668,12 @@ static void Draw(QPainter& G, const Mask& Own)
 
 void DrawMask(QPainter& P, const Recipe& R)
 {
-    const QString Sh = Text(R, "sh", "oval");
+    const QString Shape = Text(R, "sh", "oval");
     const QColor Tint = Colour(R, "c", "#c83a2a");
     const QColor Tint2 = Colour(R, "c2", "#ffd84a");
     const QColor Tint3 = Colour(R, "c3", "#1a1a1a");
-    const QPainterPath Face =
-        ClosedCurve(Named(Faces, Sh, R), QStringList{"shield", "square"}.contains(Sh) ? .6 : .75);
+    const QPainterPath Face = ClosedCurve(
+        Named(Faces, Shape, R), QStringList{"shield", "square"}.contains(Shape) ? .6 : .75);
     const QColor Edge = Tint.lightness() < 225 ? Dark(Tint, .6) : QColor("#7d766a");
     const QStringList Features = Words(R, "f", "+");
     const double EyeY = Number(R, "ey", 44);
@@ -685,8 +685,8 @@ void DrawMask(QPainter& P, const Recipe& R)
         Colour(R, "nc", Tint.lightness() < 225 ? Dark(Tint, .15) : QColor("#dcd4c4"));
     const QString Mouth = Text(R, "mouth", "line");
     const double MouthY = Number(R, "my", 80);
-    const Mask Own{R,    Sh,   Tint, Tint2,   Tint3, Face,     Edge,  Features,
-                   EyeY, EyeX, Eyes, EyeTint, Nose,  NoseTint, Mouth, MouthY};
+    const Mask Own{R,    Shape, Tint, Tint2,   Tint3, Face,     Edge,  Features,
+                   EyeY, EyeX,  Eyes, EyeTint, Nose,  NoseTint, Mouth, MouthY};
     const auto Drawing = [&](QPainter& G) { Draw(G, Own); };
     DrawFittedDraft(P, Drawing, 1.12);
 }
