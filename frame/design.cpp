@@ -6,13 +6,15 @@ struct ColumnRow {
     const char* Name;
     int First, Count; // elements of the array
     float Left, Top, StepY;
+    bool Shadow; // dark, behind the elements before them
 };
 
 constexpr ColumnRow Columns[] = {
-    {"lblLayoutName", 12, 12, 83, 142, 44}, // the shadows of the names 0 to 11
-    {"cboPlayerList", 11, 1, 616, 300, 0},  // over the two columns of statistics
-    {"cboPlayerList", 12, 1, 806, 300, 0},
+    {"lblLayoutName", 12, 12, 83, 142, 44, true}, // of the names 0 to 11
+    {"cboPlayerList", 11, 1, 616, 300, 0, false}, // over the two columns of statistics
+    {"cboPlayerList", 12, 1, 806, 300, 0, false},
 };
+constexpr Colour ColumnShadow = {10, 14, 10};
 
 struct CaptionRow {
     const char* Name;
@@ -80,6 +82,9 @@ void SetDesignPlaces()
             const Element* E = FindElement(Row.Name, Row.First + I);
             if (!E) FatalError(std::string("no element ") + Row.Name + " for a place");
             SetPlace(*E, Row.Left, Row.Top + static_cast<float>(I) * Row.StepY);
+            if (!Row.Shadow) continue;
+            SetInk(*E, ColumnShadow);
+            SendToBack(*E);
         }
 }
 

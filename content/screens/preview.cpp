@@ -231,7 +231,7 @@ static void FillScores()
         SetPicture(imgButGrpScr(I), CellPicture(I == 1 ? clpButGroupOn : clpButGroupOff, I));
     for (int I = 0; I < 12; ++I) SetPicture(imgScrLayout(I), StockPicture(imgButScores(I == 3)));
     Option(imgGameTypeScores, 0);
-    AllCaptions("lblLayoutName", 0, 12, "The Hidden Garden");
+    AllCaptions("lblLayoutName", 0, 24, "The Hidden Garden");
     Caption("lblScrTitle", -1, "The Hidden Garden");
     Caption("lblScoreSet", -1, "A");
     AllCaptions("lblScrRank", 1, 10, "10");
