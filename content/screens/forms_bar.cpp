@@ -52,7 +52,12 @@ static void DrawBar(QPainter& P, const QRectF& Box)
     const QRectF Score = BoxOf("lblScore(0)"), Skip = BoxOf("lblSkipTrack");
     const double Left = Score.x() - 4, Width = Score.width() + 8;
     DrawPlate(P, QRectF(Left, Note.y() - 2, Width, Note.height() + 4));
-    DrawSmallCaption(P, QRectF(Left, Note.y() + 5, Width, 18), "SCORE");
+    // No word here: while no game runs, the label itself says "Score".
+    DrawRule(P, Left + 12, Left + Width - 12, Note.y() + 17);
+    const QRectF Cup(Left + Width / 2 - 12, Note.y() + 5, 24, 24);
+    P.fillRect(Cup.adjusted(-6, 0, 6, 0), QColor(PlateDark));
+    DrawSign(P, Sign::Scores, Cup,
+             {.Main = QColor("#c89a2c"), .Gold = QColor("#e8bd4e"), .Ground = QColor("#fff0b0")});
     const QRectF Track(Left, Name.y() - 4, Width, Foot + 1 - Name.y() + 4);
     DrawPlate(P, Track);
     DrawNotes(P, Track.x() + 17, Track.center().y() - 10);

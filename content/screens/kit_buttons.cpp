@@ -19,8 +19,8 @@ static ButtonInk InkOf(ButtonState State)
                 "#3a2404", {.Main = "#14482f", .Gold = "#9a6408", .Ground = "#fff8cf"}};
     case ButtonState::Disabled:
         return {
-            "#3a5447", "#2a4034", "#24382d",    "#1d2f25",
-            "#1a2c22", "#152219", DisabledText, {"#a3b1a1", "#8b9b8a", "#8b9b8a", DisabledFace}};
+            "#364f43", "#2a4034", "#24382d",    "#1d2f25",
+            "#1a2c22", "#152219", DisabledText, {"#aebbac", "#8b9b8a", "#8b9b8a", DisabledFace}};
     case ButtonState::Rest:
         break;
     }
