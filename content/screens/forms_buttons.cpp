@@ -108,10 +108,10 @@ struct GroupRow {
     const char* Tiles;
 };
 static const GroupRow Groups[] = {
-    {"1-12", "72 tiles"},     {"13-24", "144 tiles"}, {"25-36", "144 tiles"},
-    {"37-48", "144 tiles"},   {"49-60", "144 tiles"}, {"61-72", "144 tiles"},
-    {"73-84", "216 tiles"},   {"85-96", "216 tiles"}, {"97-108", "216 tiles"},
-    {"109-120", "288 tiles"},
+    {"1–12", "72 tiles"},     {"13–24", "144 tiles"}, {"25–36", "144 tiles"},
+    {"37–48", "144 tiles"},   {"49–60", "144 tiles"}, {"61–72", "144 tiles"},
+    {"73–84", "216 tiles"},   {"85–96", "216 tiles"}, {"97–108", "216 tiles"},
+    {"109–120", "288 tiles"},
 };
 
 static void AddGroups(FormPictures& To, const QString& Store, ButtonState State)

@@ -10,19 +10,19 @@ struct NoteRow {
     bool Number;
 };
 static const NoteRow Notes[] = {
-    {Sign::Differ, "These two", "do not match", false},    // 0
-    {Sign::Lock, "This tile", "is blocked", false},        // 1
-    {Sign::Undo, "Nothing", "to undo", false},             // 2
-    {Sign::Sleep, "The game", "is over", false},           // 3
-    {Sign::Start, "Press START", "to play", false},        // 4
-    {Sign::Hand, "Now pick", "any tile", false},           // 5
-    {Sign::Pair, "Open pairs", "", true},                  // 6
-    {Sign::Flame, "Streak bonus", "", true},               // 7
-    {Sign::Star, "Board bonus", "", true},                 // 8
-    {Sign::Short, "Three letters", "at least", false},     // 9
-    {Sign::Book, "Not in the", "dictionary", false},       // 10
-    {Sign::Quill, "Last word", "", true},                  // 11
-    {Sign::Clock, "Cleared! Your", "time is kept", false}, // 12
+    {Sign::Differ, "These two", "do not match", false}, // 0
+    {Sign::Lock, "This tile", "is blocked", false},     // 1
+    {Sign::Undo, "Nothing", "to undo", false},          // 2
+    {Sign::Sleep, "The game", "is over", false},        // 3
+    {Sign::Start, "Press START", "to play", false},     // 4
+    {Sign::Hand, "Now pick", "any tile", false},        // 5
+    {Sign::Pair, "Open pairs", "", true},               // 6
+    {Sign::Flame, "Streak bonus", "", true},            // 7
+    {Sign::Star, "Board bonus", "", true},              // 8
+    {Sign::Short, "Three letters", "at least", false},  // 9
+    {Sign::Book, "Not in the", "dictionary", false},    // 10
+    {Sign::Quill, "Last word", "", true},               // 11
+    {Sign::Clock, "Time left is", "your score", false}, // 12
 };
 
 void DrawNoteCell(QPainter& P, const QRectF& Cell, int Number)
@@ -45,8 +45,8 @@ void DrawNoteCell(QPainter& P, const QRectF& Cell, int Number)
         AfterSign.Place = Qt::AlignLeft | Qt::AlignVCenter;
         DrawText(P, QRectF(Left + 32, 11, Width + 2, 25), Note.First, AfterSign);
     } else {
-        DrawSign(P, Note.Drawn, QRectF(11, 19, 42, 42), Colours);
-        const QRectF Right(57, 0, Cell.width() - 63, Cell.height());
+        DrawSign(P, Note.Drawn, QRectF(11, 20, 39, 39), Colours);
+        const QRectF Right(52, 0, Cell.width() - 61, Cell.height());
         DrawText(P, QRectF(Right.x(), 20, Right.width(), 20), Note.First, Words);
         DrawText(P, QRectF(Right.x(), 40, Right.width(), 20), Note.Second, Words);
     }
