@@ -199,6 +199,15 @@ static const std::map<std::string, Operation>& Operations()
         RULE(LoadWonLost),
         RULE(SaveWonLost),
         RULE(ShowCongratulations),
+        RULE(RepairSettings),
+        RULE(LoadDisplaySettings),
+        RULE(BuildPlayerList),
+        RULE(MasterScoreFor),
+        RULE(ComputeStatistics),
+        RULE(LowScoreLayout),
+        RULE(SortPlayers),
+        RULE(SaveChosenPlayers),
+        RULE(CopyChosenPlayers),
         RULE(ShowNewHigh),
         // media
         RULE(ChooseTileSet),
@@ -218,6 +227,13 @@ static const std::map<std::string, Operation>& Operations()
         RULE(FreePanelBackground),
         RULE(OpenChooser),
         RULE(SetHelpBalloons),
+        RULE(OpenOptions),
+        RULE(ShowThumbnails),
+        RULE(ShowSetLabel),
+        RULE(ChooseLayout),
+        RULE(ShowScores),
+        RULE(ShowHistory),
+        RULE(ShowHistoryPage),
     };
 #undef RULE
     return All;

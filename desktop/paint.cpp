@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-constexpr int SmallestFont = 11; // pixels of the screen; a caption shrinks no further
+constexpr int SmallestFont = 12; // pixels of the screen; a caption shrinks no further
 
 // An element's place on the window, rounded once, in device pixels.
 static QRect PlaceOf(const ScreenView& View, double Left, double Top, double Width, double Height)

@@ -65,7 +65,7 @@ static void CutSheet(int Sheet)
         if (Row.Sheet != Sheet) continue;
         const QRect& Two = Row.Part;
         const QRect Part =
-            DesignSize ? QRect(Two.topLeft() / 2, (Two.size() + QSize(1, 1)) / 2) : Two;
+            DesignSize ? QRect(Two.topLeft() / 2, Two.size() / 2) : Two;
         const int Width = qRound(Two.width() * KnownScale / FormScale);
         const int Height = qRound(Two.height() * KnownScale / FormScale);
         Forms[Name] = Scaled(Whole.copy(Part), std::max(Width, 1), std::max(Height, 1));

@@ -130,7 +130,7 @@ static QLineEdit* MakeTextBox(const Element& E)
     auto* Box = new QLineEdit(Window);
     Box->setMaxLength(255);
     QObject::connect(Box, &QLineEdit::textEdited, Window, [&E](const QString& Text) {
-        SendText(E, Text.toLatin1().toStdString());
+        SendText(E, Text.toStdString());
         AfterEvent();
     });
     QObject::connect(Box, &QLineEdit::returnPressed, Window, [&E] {
@@ -158,8 +158,8 @@ static void SyncTextBox(const Element& E)
         if (Focused() == &E) Box->setFocus();
         Box->selectAll();
     }
-    const QString Text = QString::fromLatin1(E.Caption.c_str());
-    if (Box->text().toLatin1() != Text.toLatin1()) Box->setText(Text);
+    const QString Text = QString::fromStdString(E.Caption);
+    if (Box->text() != Text) Box->setText(Text);
 }
 
 // A list box that tells the rules before its list drops down.
@@ -179,7 +179,7 @@ static QComboBox* MakeListBox(const Element& E)
     auto* Box = new DropList(E);
     Box->setMaxVisibleItems(16);
     QObject::connect(Box, &QComboBox::activated, Window, [&E, Box](int Index) {
-        SendChoice(E, Box->itemText(Index).toLatin1().toStdString());
+        SendChoice(E, Box->itemText(Index).toStdString());
         AfterEvent();
     });
     return Box;
@@ -200,12 +200,12 @@ static void SyncListBox(const Element& E)
     }
     if (ListBoxItems[E.Id] != E.ItemsChanged) {
         QStringList Items;
-        for (const std::string& Item : E.Items) Items << QString::fromLatin1(Item.c_str());
+        for (const std::string& Item : E.Items) Items << QString::fromStdString(Item);
         Box->clear();
         Box->addItems(Items);
         ListBoxItems[E.Id] = E.ItemsChanged;
     }
-    const QString Text = QString::fromLatin1(E.Caption.c_str());
+    const QString Text = QString::fromStdString(E.Caption);
     if (Box->currentText() != Text || Box->currentIndex() < 0)
         Box->setCurrentIndex(E.Caption.empty() ? -1 : Box->findText(Text));
 }
