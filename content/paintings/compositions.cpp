@@ -123,3 +123,13 @@ void Ranges(Scene& P, Hill Kind, int Count, float Tall, float Foot, float Snow, 
         PaintHill(P, Look);
     }
 }
+
+void PaintSkyWithoutOrb(Scene& P, float Horizon)
+{
+    const Light* const Own = P.L;
+    Light Plain = *Own;
+    Plain.OrbSize = 0;
+    P.L = &Plain;
+    PaintSky(P, Horizon);
+    P.L = Own;
+}

@@ -8,6 +8,9 @@ Rgb GroundColour(const Scene& P);
 // Count ranges one before the other, each nearer one lower and darker, the last at Foot.
 void Ranges(Scene& P, Hill Kind, int Count, float Tall, float Foot, float Snow, float Trees);
 
+// The sky without its own sun or moon, for pictures that set a greater one.
+void PaintSkyWithoutOrb(Scene& P, float Horizon);
+
 // compositions_water.cpp
 void PaintLake(Scene& P);      // mountains over their mirror image
 void PaintOpenSea(Scene& P);   // swell, rocks, a sail

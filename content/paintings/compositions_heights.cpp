@@ -370,7 +370,7 @@ void PaintViaduct(Scene& P)
 void PaintSunDisc(Scene& P)
 {
     const float H = Vary(P, 300, 340);
-    PaintSky(P, H);
+    PaintSkyWithoutOrb(P, H);
     const float X = Vary(P, 250, 420, 3), Y = Any(P.C, 170, 220), R = Any(P.C, 96, 132);
     const Rgb Disc = P.Ink     ? Hex(P.L->Orb)
                      : P.Night ? Hex(0xf4ecd8)

@@ -367,17 +367,18 @@ void PaintStairs(Scene& P)
 void PaintBranch(Scene& P)
 {
     const float H = Vary(P, 252, 406);
-    PaintSky(P, H);
+    const bool Disc = P.L->OrbSize == 0 || P.Seed % 2; // a great one behind the branch
+    Disc ? PaintSkyWithoutOrb(P, H) : PaintSky(P, H);
     Ranges(P, P.Seed % 3 == 0 ? Hill::Karst : Hill::Soft, 2 + AnyOf(P.C, 2), Any(P.C, 60, 150), H,
            P.Snow ? 0.7f : 0, 0);
     PaintMist(P, H - 10, 40, 0.8f);
-    if (P.L->OrbSize == 0 || P.Seed % 2) { // a great disc behind the branch
+    if (Disc) {
         const float R = Any(P.C, 50, 84), MX = Any(P.C, 380, 560), MY = Any(P.C, 100, 170);
-        const Rgb Disc = P.Ink     ? Hex(P.L->Orb)
-                         : P.Night ? Hex(0xf6f0dc)
-                                   : Mix(Hex(P.L->Horizon), Hex(0xfff8e8), 0.6f);
-        SoftDab(P.C, MX, MY, R * 2, R * 2, Disc, 0.35f);
-        Dab(P.C, MX, MY, R * 2, R * 2, 0, Disc, 0.92f);
+        const Rgb Paint = P.Ink     ? Hex(P.L->Orb)
+                          : P.Night ? Hex(0xf6f0dc)
+                                    : Mix(Hex(P.L->Horizon), Hex(0xfff8e8), 0.6f);
+        SoftDab(P.C, MX, MY, R * 2, R * 2, Paint, 0.35f);
+        Dab(P.C, MX, MY, R * 2, R * 2, 0, Paint, 0.92f);
     }
     PaintMotif(P, P.Plan.Motif, Any(P.C, 480, 620), H + 2, 76, 0.9f);
     PaintMist(P, Height - 6, 50, 0.8f);

@@ -461,7 +461,7 @@ void PaintGateFrame(Scene& P)
 void PaintFrostField(Scene& P)
 {
     const float H = Vary(P, 180, 270);
-    PaintSky(P, H);
+    P.Seed % 2 ? PaintSkyWithoutOrb(P, H) : PaintSky(P, H);
     if (P.Seed % 2) {
         const float R = Any(P.C, 54, 80), X = Any(P.C, 420, 560), Y = H - R * 0.7f;
         const Rgb Disc =
