@@ -20,17 +20,6 @@ constexpr int PackOriginX = 56, PackOriginY = 23;
 
 // --- the name list ---
 
-// Takes the next line off the text; both line endings are accepted. False at the end of the text.
-static bool TakeLine(std::string_view& Text, std::string& Line)
-{
-    if (Text.empty()) return false;
-    const std::size_t End = Text.find('\n');
-    Line = Text.substr(0, End);
-    if (!Line.empty() && Line.back() == '\r') Line.pop_back();
-    Text.remove_prefix(End == std::string_view::npos ? Text.size() : End + 1);
-    return true;
-}
-
 static bool IsOffsetCode(const std::string& Text)
 {
     return Text.size() == 4 && Text.find_first_not_of("0123456789") == std::string::npos;

@@ -104,6 +104,16 @@ static int OpenFileFor(const std::string& Path, int Access)
     return Handle;
 }
 
+bool TakeLine(std::string_view& Text, std::string& Line)
+{
+    if (Text.empty()) return false;
+    const std::size_t End = Text.find('\n');
+    Line = Text.substr(0, End);
+    if (!Line.empty() && Line.back() == '\r') Line.pop_back();
+    Text.remove_prefix(End == std::string_view::npos ? Text.size() : End + 1);
+    return true;
+}
+
 int OpenForReading(const std::string& Path)
 {
     return OpenFileFor(Path, O_RDONLY);

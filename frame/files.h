@@ -27,6 +27,9 @@ bool ReadWholeFile(std::string_view Path, Bytes& Content);
 // then holds the system's reason.
 bool WriteWholeFile(std::string_view Path, std::span<const std::uint8_t> Content, std::string& Why);
 
+// Takes the next line off a text; both line endings are accepted. False at the end of the text.
+bool TakeLine(std::string_view& Text, std::string& Line);
+
 // A file that stays open and is read piece by piece. A handle is above 0; 0 means none.
 int OpenForReading(const std::string& Path); // a path of the host, not of the game
 long long FileLength(int Handle);

@@ -30,16 +30,13 @@ static void FindPacks()
     GameState.LayoutListCount = BuiltInLists + Packs;
 }
 
-// Line Number of the index, counted from 1; both line endings are accepted.
-static std::string TakeLine(std::string_view& Text, const std::string& File, int Number)
+// Line Number of the index, counted from 1.
+static std::string IndexLine(std::string_view& Text, const std::string& File, int Number)
 {
-    if (Text.empty())
+    std::string Line;
+    if (!TakeLine(Text, Line))
         FatalError(File + " line " + std::to_string(Number) + " is missing: a content pack has " +
                    std::to_string(SetsOfPack + LayoutsOfPack) + " lines");
-    const std::size_t End = Text.find('\n');
-    std::string Line(Text.substr(0, End));
-    if (!Line.empty() && Line.back() == '\r') Line.pop_back();
-    Text.remove_prefix(End == std::string_view::npos ? Text.size() : End + 1);
     return Line;
 }
 
@@ -54,9 +51,9 @@ static void ReadPack(const std::string& Name)
     std::string_view Text(reinterpret_cast<const char*>(Content.data()), Content.size());
     int Line = 0;
     for (int I = 0; I < SetsOfPack; ++I)
-        GameState.TileSetNames(List * SetsOfPack + I) = TakeLine(Text, File, ++Line);
+        GameState.TileSetNames(List * SetsOfPack + I) = IndexLine(Text, File, ++Line);
     for (int I = 1; I <= LayoutsOfPack; ++I)
-        GameState.LayoutName(List * LayoutsOfPack + I) = TakeLine(Text, File, ++Line);
+        GameState.LayoutName(List * LayoutsOfPack + I) = IndexLine(Text, File, ++Line);
 }
 
 static std::string InstalledPacks()
