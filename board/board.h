@@ -3,6 +3,7 @@
 
 #include "frame/frame.h"
 
+constexpr int FullTime = 7500;   // AgilityTime of a new game, tenths of a second
 constexpr int PairArmed = 32000; // PairMark: PAIR waits for a tile
 constexpr int TileStep = 2;      // grid steps from a tile to its neighbour
 
@@ -56,7 +57,7 @@ void ScanOpenPairs();                // run after every change of the board
 void imgTile_MouseDown(int Tile, MouseButton, int, int);
 void imgTile_MouseMove(int Tile, MouseButton, int, int);
 void picBoard_MouseDown(int, MouseButton, int, int);
-void picBoard_MouseMove(int, MouseButton, int, int);
+void picBoard_MouseMove(int, MouseButton, int, int); // of the bar and what stands on it too
 
 // --- scoring.cpp: points, and the panel that follows the counters ---
 
@@ -98,6 +99,8 @@ void imgPause_Action(int);
 void EndWonGame();
 // Table or no table: the panels of a finished game, its history line, its won count.
 void CongratulateOrAskName();
+// The box of a lost game; its count is on disk before the box is answered.
+void ShowLostGame();
 void imgCongratsOK_Action(int);
 void imgNewHighOK_Action(int);
 void imgNoMovesOK_Action(int);

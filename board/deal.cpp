@@ -4,7 +4,6 @@
 #include <utility>
 
 constexpr int PowerUses = 2;
-constexpr int FullTime = 7500; // tenths of a second
 constexpr int Exchanges = 576;
 
 static void ResetCounters()

@@ -9,6 +9,14 @@ static void CountWonGame()
     SaveWonLost();
 }
 
+void ShowLostGame()
+{
+    Show(picNoMoves);
+    Platform.Yield();
+    ++GameState.LayoutLost(LayoutIndex());
+    SaveWonLost();
+}
+
 static void RecordWithoutPlace()
 {
     RecordGame(2, "-", "-", GameState.LayoutNumber, GameState.Score);

@@ -1,6 +1,5 @@
 #include "board/board.h"
 #include "media/media.h"
-#include "records/records.h"
 #include "words/word_play.h"
 
 static void SwapPictures(int TileA, int TileB)
@@ -68,10 +67,7 @@ void ShowNoMoves()
         return;
     }
     GameState.GameRunning = 0;
-    Show(picNoMoves);
-    Platform.Yield();
-    ++GameState.LayoutLost(LayoutIndex());
-    SaveWonLost();
+    ShowLostGame();
 }
 
 void imgNoMovesMixOK_Action(int)

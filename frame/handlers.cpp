@@ -7,10 +7,6 @@
 #include "screens/screens.h"
 #include "words/word_play.h"
 
-static void ClearHoverOnMove(int, MouseButton, int, int)
-{
-    ClearHover();
-}
 static void HideNoteOnClick(int)
 {
     HideTextNote();
@@ -45,12 +41,12 @@ static void SetControlBarHandlers()
     for (const Element& E : Elements)
         if (E.Panel == picBevelRight.Id || E.Panel == picNote.Id ||
             (E.Panel >= picGamePanel(1).Id && E.Panel <= picGamePanel(3).Id))
-            SetHandlers(E, {.MouseMove = ClearHoverOnMove});
-    SetHandlers(picBevelRight, {.MouseMove = ClearHoverOnMove});
-    SetHandlers(picNote, {.MouseMove = ClearHoverOnMove, .Click = HideNoteOnClick});
+            SetHandlers(E, {.MouseMove = picBoard_MouseMove});
+    SetHandlers(picBevelRight, {.MouseMove = picBoard_MouseMove});
+    SetHandlers(picNote, {.MouseMove = picBoard_MouseMove, .Click = HideNoteOnClick});
 
     const auto Button = [](const Element& E, IndexHandler Press, IndexHandler Action) {
-        SetHandlers(E, {.MouseMove = ClearHoverOnMove, .Press = Press, .Action = Action});
+        SetHandlers(E, {.MouseMove = picBoard_MouseMove, .Press = Press, .Action = Action});
     };
     Button(imgbutStart, nullptr, imgbutStart_Action);
     Button(imgbutEnd, nullptr, imgbutEnd_Action);
@@ -64,12 +60,12 @@ static void SetControlBarHandlers()
     Button(imgPause, imgPause_Press, imgPause_Action);
     Button(imgAcceptWord, nullptr, imgAcceptWord_Action);
     Button(imgUndoWisdom, nullptr, imgUndoWisdom_Action);
-    SetHandlers(lblSkipTrack, {.MouseMove = ClearHoverOnMove, .Click = lblSkipTrack_Click});
+    SetHandlers(lblSkipTrack, {.MouseMove = picBoard_MouseMove, .Click = lblSkipTrack_Click});
     for (const Element* Disabled :
          {&imgMixFinesseDIS, &imgUndoDIS, &imgPairDIS, &imgPeekDIS, &imgMixAgilityDIS, &imgPauseDIS,
           &imgMixWisdomDIS, &imgPushDIS, &imgAcceptWordDIS, &imgUndoWisdomDIS, &imgButMenuDIS,
           &imgButLayoutDIS, &imgbutStartDIS, &imgEndDIS})
-        SetHandlers(*Disabled, {.MouseMove = ClearHoverOnMove, .Click = HideNoteOnClick});
+        SetHandlers(*Disabled, {.MouseMove = picBoard_MouseMove, .Click = HideNoteOnClick});
 }
 
 static void SetBoxHandlers()

@@ -9,7 +9,6 @@
 constexpr int FullWidth = 1024, FullHeight = 768;
 constexpr float LogoLeft = 80;
 constexpr int StandardDots = 96; // per inch
-constexpr int FullTime = 7500;
 constexpr int BuiltInBackdrops = 72, BuiltInTracks = 30;
 
 // The desktop as the front end measured it, pixels and dots per inch.

@@ -112,17 +112,12 @@ static const MenuRow MenuButtons[] = {
     {imgExitNO, nullptr, imgExitNO_Action},
 };
 
-static void ClearHoverOnMove(int, MouseButton, int, int)
-{
-    ClearHover();
-}
-
 void SetMenuHandlers()
 {
     for (const MenuRow& Row : MenuButtons)
         SetHandlers(Row.Button, {.Press = Row.Press, .Action = Row.Action});
-    SetHandlers(imgButMenu, {.MouseMove = ClearHoverOnMove, .Action = imgButMenu_Action});
-    SetHandlers(imgButLayout, {.MouseMove = ClearHoverOnMove,
+    SetHandlers(imgButMenu, {.MouseMove = picBoard_MouseMove, .Action = imgButMenu_Action});
+    SetHandlers(imgButLayout, {.MouseMove = picBoard_MouseMove,
                                .Press = imgButLayout_Press,
                                .Action = imgButLayout_Action});
 }

@@ -3,7 +3,6 @@
 #include "board/board.h"
 #include "frame/files.h"
 #include "media/media.h"
-#include "records/records.h"
 #include "words/words.h"
 
 #include <algorithm>
@@ -107,10 +106,7 @@ static void LoseGame()
     Show(picBlack);
     GameState.GameRunning = 0;
     ShowNote(NoteGameOver);
-    Show(picNoMoves);
-    Platform.Yield();
-    ++GameState.LayoutLost(LayoutIndex());
-    SaveWonLost();
+    ShowLostGame();
 }
 
 static int CompletionBonus()
