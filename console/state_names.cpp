@@ -2,6 +2,7 @@
 
 #include "frame/elements.h"
 #include "frame/frame.h"
+#include "records/records.h"
 #include "words/words.h"
 
 #include <functional>
@@ -320,6 +321,7 @@ static void RegisterAll()
     VALUE(AllSuggestions);
 #undef VALUE
     Register("RandomGroupMarks", S.RandomBlockChosen); // the chooser's word for the same array
+    Register("GraphColour", GraphColour); // what the profile has drawn, by layout and place
 }
 
 static const StateVariable* FindVariable(const std::string& Name)

@@ -34,6 +34,12 @@ constexpr Look Pair(FontFace Face, int Size, bool Weight, Align Place, int R, in
     Result.Pair = true;
     return Result;
 }
+constexpr Look GhostPair(FontFace Face, int Size, bool Weight, Align Place, int R, int G, int B)
+{
+    Look Result = Pair(Face, Size, Weight, Place, R, G, B);
+    Result.Ghost = true;
+    return Result;
+}
 constexpr Look TopText(FontFace Face, int Size, bool Weight, Align Place, int R, int G, int B)
 {
     Look Result = Text(Face, Size, Weight, Place, R, G, B);

@@ -6,7 +6,8 @@ struct BalloonRow {
     const char* Text;
 };
 
-// A single element as an array of one. By its number: the table stands before the elements are made.
+// A single element as an array of one. By its number: the table stands before the elements are
+// made.
 static ElementArray Single(int Id)
 {
     return {"", Id, 0, 1};

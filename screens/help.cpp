@@ -25,15 +25,21 @@ static void MoveFirstPageButton(bool Pressed)
     FirstPagePressed = Pressed;
 }
 
-void imgMenuHelp_Press(int)
+static void PrepareHelp()
 {
-    HidePackLabels();
     LoadPage(1);
     MoveFirstPageButton(true);
 }
 
+void imgMenuHelp_Press(int)
+{
+    HidePackLabels();
+    PrepareHelp();
+}
+
 void imgMenuHelp_Action(int)
 {
+    if (picHelp.Shows == NoPicture()) PrepareHelp(); // the press began on another button
     ShowPanel(picHelp);
     Hide(picMenu);
     Hide(picBlack);

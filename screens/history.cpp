@@ -3,21 +3,15 @@
 #include "records/records.h"
 #include "screens/screens.h"
 
-constexpr int RowsOfPage = 14, Pages = 3;
+#include <cstdlib>
 
-static int NumberIn(const std::string& Text)
-{
-    int Number = 0;
-    for (char C : Text)
-        if (C >= '0' && C <= '9') Number = Number * 10 + (C - '0');
-    return Number;
-}
+constexpr int RowsOfPage = 14, Pages = 3;
 
 static void ShowRow(int Row, const HistoryRow& Game, bool Cleared)
 {
     const std::string Date = Game.Date.size() < 4 ? std::string(8, ' ') : Game.Date;
     const std::string Year = Date.substr(Date.size() - 4);
-    const bool Shown = !Cleared && NumberIn(Year) > 0;
+    const bool Shown = !Cleared && std::atoi(Year.c_str()) > 0;
     for (const ElementArray* Column : {&lblHisName, &lblHisRank, &lblHisLayout, &lblHisScore,
                                        &lblHisYear, &lblHisMonth, &lblHisDay})
         SetVisible((*Column)(Row), Shown);
@@ -27,8 +21,8 @@ static void ShowRow(int Row, const HistoryRow& Game, bool Cleared)
     SetCaption(lblHisLayout(Row), GameState.LayoutName(Game.LayoutIndex));
     SetCaption(lblHisScore(Row), std::to_string(Game.Score));
     SetCaption(lblHisYear(Row), Year);
-    SetCaption(lblHisMonth(Row), MonthText(NumberIn(Date.substr(2, 2))));
-    SetCaption(lblHisDay(Row), std::to_string(NumberIn(Date.substr(0, 2))));
+    SetCaption(lblHisMonth(Row), MonthText(std::atoi(Date.substr(2, 2).c_str())));
+    SetCaption(lblHisDay(Row), std::to_string(std::atoi(Date.substr(0, 2).c_str())));
 }
 
 void ShowHistoryPage()

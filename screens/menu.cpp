@@ -57,6 +57,7 @@ static void imgMenuProfile_Press(int)
 
 static void imgMenuProfile_Action(int)
 {
+    if (picProfile.Shows == NoPicture()) BuildProfile(); // the press began on another button
     OpenFromMenu(picProfile);
 }
 

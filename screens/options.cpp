@@ -191,10 +191,15 @@ static void ShowTileGroup(int Group)
     ShowTileChoice();
 }
 
+static void PageCursorTo(int Group)
+{
+    for (int I = 1; I <= GameState.TileSetCount / SetsOfGroup; ++I)
+        if (GameState.LayoutSets(I) == Group) GameState.TilePageCursor = I;
+}
+
 static void ShowTileGroupAndPage(int Group)
 {
-    for (int I = 1; I <= 3; ++I)
-        if (GameState.LayoutSets(I) == Group) GameState.TilePageCursor = I;
+    PageCursorTo(Group);
     ShowTileGroup(Group);
 }
 
@@ -387,6 +392,7 @@ static void BringMusicIntoLine()
 static void imgButOptionsCancel_Action(int)
 {
     GameState.TileGroupShown = GameState.TileGroupKept;
+    PageCursorTo(GameState.TileGroupShown);
     GameState.BackdropGroupShown = GameState.BackdropGroupKept;
     GameState.OptTileSet = GameState.TileSetFixed;
     if (GameState.GameType == Wisdom)
