@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <random>
+#include <vector>
 
 static std::mt19937 Chance;
 static long long Event = 0, Now = 0;
@@ -17,10 +18,12 @@ static int Draw(int Count)
     return static_cast<int>(Chance() % static_cast<unsigned>(Count));
 }
 
-static void Demand(bool Holds, const std::string& What)
+static void Demand(bool Holds, const char* What, const Element* Where = nullptr)
 {
     if (Holds) return;
-    std::cerr << "monkey: after event " << Event << " (" << Last << "): " << What << std::endl;
+    std::cerr << "monkey: after event " << Event << " (" << Last << "): " << What;
+    if (Where) std::cerr << ": " << ElementText(*Where);
+    std::cerr << std::endl;
     std::exit(1);
 }
 
@@ -31,8 +34,41 @@ static int CountShown(std::initializer_list<const Element*> Panels)
     return Count;
 }
 
+// Every image button and where it stands when nobody presses it.
+struct ButtonRow {
+    const Element& Button;
+    float Left, Top;
+};
+static std::vector<ButtonRow> Buttons;
+
+static void FindButtons()
+{
+    for (const Element& E : Elements)
+        if (E.Does.Press || E.Does.Action) Buttons.push_back({E, E.Left, E.Top});
+}
+
+// One button stands a pixel right and down while the latch is set, none while it is not.
+static void CheckLatch()
+{
+    int Moved = 0;
+    for (const ButtonRow& Row : Buttons) {
+        const float Step = Row.Button.Left - Row.Left;
+        Demand(Row.Button.Top - Row.Top == Step, "a button moved askew", &Row.Button);
+        if (Row.Button.Id == imgHelpBut(1).Id && Step > 0) {
+            // It stands pressed while the help opens, and a press moves it once more.
+            Demand(Step <= 2, "the first page's button went astray");
+            continue;
+        }
+        Demand(Step == 0 || Step == 1, "a button is not at its place", &Row.Button);
+        Moved += Step == 1;
+    }
+    Demand(Moved <= 1, "two buttons stand pressed");
+    Demand(GameState.ButtonDown == 1 || Moved == 0, "a button stands pressed without the latch");
+}
+
 static void CheckProgram()
 {
+    CheckLatch();
     const int Full =
         CountShown({&picOptions, &picHistory, &picScores, &picProfile, &picLayouts, &picHelp});
     const int Boxes =
@@ -98,13 +134,39 @@ static void PassTime()
     Last = "time";
 }
 
+static MouseButton SomeButton()
+{
+    const int Chosen = Draw(12);
+    return Chosen == 0 ? MouseButton::Right : Chosen == 1 ? MouseButton::Middle : MouseButton::Left;
+}
+
 static void PressHere()
 {
-    const MouseButton Button = Draw(8) == 0 ? MouseButton::Right : MouseButton::Left;
+    const MouseButton Button = SomeButton();
     SendMouseMove(X, Y);
     Last = "press on " + NameOf(SendMouseDown(Button, X, Y));
     if (Draw(10) == 0) MoveSomewhere(); // a drag
     if (!Ended) SendMouseUp(Button, X, Y);
+}
+
+static void PressTwice()
+{
+    PressHere();
+    if (!Ended) PressHere();
+}
+
+// Two presses before the first release, on two elements and with any buttons.
+static void PressTwo()
+{
+    const MouseButton First = SomeButton(), Second = SomeButton();
+    Last = "presses on " + NameOf(SendMouseDown(First, X, Y));
+    MoveToElement();
+    SendMouseMove(X, Y);
+    Last += " and " + NameOf(SendMouseDown(Second, X, Y));
+    if (Ended) return;
+    SendMouseUp(Second, X, Y);
+    CheckProgram();
+    if (!Ended) SendMouseUp(First, X, Y);
 }
 
 // A run of pairs, so that games come to their ends.
@@ -135,7 +197,7 @@ static void ChoosePlayer()
 {
     const Element& Box = cboPlayerList(1 + Draw(12));
     if (!IsShown(Box) || Box.Items.empty()) return;
-    SendDropDown(Box);
+    if (Draw(2) == 0) SendDropDown(Box); // the wheel and the keys choose without it
     SendChoice(Box, Box.Items[static_cast<std::size_t>(Draw(static_cast<int>(Box.Items.size())))]);
     Last = "a choice in " + ElementText(Box);
 }
@@ -143,7 +205,7 @@ static void ChoosePlayer()
 static void StartAgain()
 {
     Ended = false;
-    const std::string Folder = GameDirectory;
+    ReleaseButton(); // the finger of the run that ended
     GameState = GameStateRecord();
     InitElements();
     SetAllHandlers();
@@ -187,6 +249,14 @@ static void DoSomething()
         SendMouseMove(X, Y);
         Last = "a move";
         break;
+    case 7:
+        MoveToElement();
+        PressTwo();
+        break;
+    case 8:
+        MoveToElement();
+        PressTwice();
+        break;
     default:
         MoveToElement();
         PressHere();
@@ -199,6 +269,7 @@ int main(int Count, char** Arguments)
     const long long Events = Count > 1 ? std::atoll(Arguments[1]) : 100000;
     Chance.seed(Count > 2 ? static_cast<unsigned>(std::atoi(Arguments[2])) : 1);
     BootGame();
+    FindButtons();
     Now = 6100;
     Platform.Milliseconds = [] { return Now; };
     Platform.End = [] { Ended = true; };
