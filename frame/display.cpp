@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-constexpr int FullWidth = 1024, FullHeight = 768;
 constexpr int MainWidth = FullWidth * TwipsPerPixel, MainHeight = FullHeight * TwipsPerPixel;
 constexpr int MoveStep = 150;
 constexpr const char* WindowRefused =

@@ -21,6 +21,7 @@ enum class FontFace { Sans, Serif };
 using ElementId = int;
 constexpr ElementId NoElement = -1;
 constexpr int TwipsPerPixel = 15;
+constexpr int FullWidth = 1024, FullHeight = 768; // pixels of frmMain and of a full-size picture
 
 struct TextFont {
     FontFace Face = FontFace::Sans;

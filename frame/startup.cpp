@@ -6,7 +6,6 @@
 #include "screens/screens.h"
 #include "words/word_play.h"
 
-constexpr int FullWidth = 1024, FullHeight = 768;
 constexpr float LogoLeft = 80;
 constexpr int StandardDots = 96; // per inch
 constexpr int BuiltInBackdrops = 72, BuiltInTracks = 30;

@@ -1,7 +1,6 @@
 #include "media/media.h"
 
 constexpr int TileSheetWidth = 720, TileSheetHeight = 540;
-constexpr int BackdropWidth = 1024, BackdropHeight = 768;
 
 constexpr const char* BuiltInTileSets[] = {"Classic",
                                            "Marine Life",
@@ -134,7 +133,7 @@ void LoadNamedTileSet(int Number)
 
 void LoadNamedBackdrop(int Number)
 {
-    LoadPicture(picBoard, "BD", Number, BackdropWidth, BackdropHeight);
+    LoadPicture(picBoard, "BD", Number, FullWidth, FullHeight);
 }
 
 void ChooseTileSet()

@@ -4,12 +4,11 @@
 #include "screens/screens.h"
 
 constexpr int CreditPage = 4;
-constexpr int PageWidth = 1024, PageHeight = 768;
 constexpr const char* CreditsPage = "\\DATA\\credits.html";
 
 static void LoadPage(int Page)
 {
-    LoadPicture(picHelp, "HP", Page, PageWidth, PageHeight);
+    LoadPicture(picHelp, "HP", Page, FullWidth, FullHeight);
     SetVisible(lblCreditMusic, Page == CreditPage);
     SetVisible(lblCreditMaker, Page == CreditPage);
 }

@@ -2,8 +2,6 @@
 #include "media/media.h"
 #include "screens/screens.h"
 
-constexpr int ScreenWidth = 1024, ScreenHeight = 768;
-
 // The picture of each full-size screen.
 struct BackgroundRow {
     const Element& Panel;
@@ -21,7 +19,7 @@ void ShowPanel(const Element& Panel)
 void LoadPanelBackground(const Element& Panel)
 {
     for (const BackgroundRow& Row : Backgrounds)
-        if (&Row.Panel == &Panel) LoadPicture(Panel, "EN", Row.Number, ScreenWidth, ScreenHeight);
+        if (&Row.Panel == &Panel) LoadPicture(Panel, "EN", Row.Number, FullWidth, FullHeight);
 }
 
 void FreePanelBackground(const Element& Panel)
