@@ -15,7 +15,8 @@ struct Argument {
 // --- values.cpp: how values are written and read ---
 
 std::string QuotedText(std::string_view Text); // a "b" -> "a ""b"""
-std::string NumberText(double Value);          // at most six significant digits
+std::string NumberText(double Value);          // plain decimal, as many digits as it takes
+std::string LengthText(double Value);          // the same with at most six significant digits
 std::optional<int> WholeNumber(const std::string& Text);
 std::optional<double> RealNumber(const std::string& Text);
 // The words of a line; nothing when a quote stays open.

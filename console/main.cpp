@@ -21,7 +21,7 @@ static std::chrono::sys_seconds ClockSetTo =
     std::chrono::sys_days(std::chrono::year(2026) / 1 / 2) +
     std::chrono::seconds(3 * 3600 + 4 * 60 + 5);
 static long long ClockSetAt = 0;
-static bool Started = false, Ended = false;
+static bool Started = false, Ended = false, Leaving = false;
 
 // --- the platform ---
 
@@ -85,7 +85,7 @@ static std::string DesktopCommand(const Words& Given)
 
 static std::string ClockCommand(const Words& Given)
 {
-    int Y, M, D, H, Min, S, End = 0;
+    int Y = 0, M = 0, D = 0, H = 0, Min = 0, S = 0, End = 0;
     const std::string Text = Given.size() == 2 ? Given[0].Text + " " + Given[1].Text : "";
     const int Read =
         std::sscanf(Text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &Y, &M, &D, &H, &Min, &S, &End);
@@ -241,9 +241,23 @@ static std::string ClearCommand(const Words&)
     return "ok";
 }
 
+// The characters of a text in UTF-8.
+static std::vector<std::string> Characters(const std::string& Text)
+{
+    std::vector<std::string> Result;
+    for (char C : Text) {
+        if (Result.empty() || (C & 0xC0) != 0x80) Result.emplace_back();
+        Result.back() += C;
+    }
+    return Result;
+}
+
 static std::string KeyDownCommand(const Words& Given)
 {
     if (Given.empty()) return "error: keydown KEY [shift] [ctrl] [alt]";
+    const std::string& Key = Given[0].Text;
+    const bool Arrow = Key == "up" || Key == "down" || Key == "left" || Key == "right";
+    if (!Arrow && Characters(Key).size() != 1) return "error: no key " + Key;
     bool Shift = false, Ctrl = false, Alt = false;
     for (std::size_t I = 1; I < Given.size(); ++I) {
         if (Given[I].Text == "shift")
@@ -255,7 +269,7 @@ static std::string KeyDownCommand(const Words& Given)
         else
             return "error: no modifier " + Given[I].Text;
     }
-    SendKeyDown(Given[0].Text, Shift, Ctrl, Alt);
+    SendKeyDown(Key, Shift, Ctrl, Alt);
     return "ok";
 }
 
@@ -263,7 +277,7 @@ static std::string TypeCommand(const std::string& Text)
 {
     const Element* Box = Focused();
     if (!Box) return "error: no text box has the focus";
-    for (char C : Text) SendText(*Box, Box->Caption + C);
+    for (const std::string& Character : Characters(Text)) SendText(*Box, Box->Caption + Character);
     return "ok";
 }
 
@@ -392,53 +406,60 @@ static std::string LogCommand(const Words&)
 struct CommandRow {
     const char* Name;
     std::string (*Run)(const Words& Given);
-    bool Looks; // still answers after the end of the program
+    bool Looks = false; // still answers after the end of the program
+    bool Alone = false; // takes no argument
 };
 static const CommandRow Commands[] = {
-    {"desktop", DesktopCommand, false},
-    {"clock", ClockCommand, false},
-    {"random", RandomCommand, false},
-    {"start", StartCommand, false},
-    {"wait", WaitCommand, false},
-    {"boot", BootCommand, false},
-    {"move", [](const Words& G) { return PointerCommand(G, PointerAct::Move); }, false},
-    {"down", [](const Words& G) { return PointerCommand(G, PointerAct::Down); }, false},
-    {"up", [](const Words& G) { return PointerCommand(G, PointerAct::Up); }, false},
-    {"press", [](const Words& G) { return PointerCommand(G, PointerAct::Press); }, false},
+    {"desktop", DesktopCommand},
+    {"clock", ClockCommand},
+    {"random", RandomCommand},
+    {"start", StartCommand, false, true},
+    {"wait", WaitCommand},
+    {"boot", BootCommand, false, true},
+    {"move", [](const Words& G) { return PointerCommand(G, PointerAct::Move); }},
+    {"down", [](const Words& G) { return PointerCommand(G, PointerAct::Down); }},
+    {"up", [](const Words& G) { return PointerCommand(G, PointerAct::Up); }},
+    {"press", [](const Words& G) { return PointerCommand(G, PointerAct::Press); }},
     {"hit", HitCommand, true},
-    {"clear", ClearCommand, false},
-    {"keydown", KeyDownCommand, false},
-    {"enter", EnterCommand, false},
-    {"dropdown", DropDownCommand, false},
-    {"event", EventCommand, false},
+    {"clear", ClearCommand, false, true},
+    {"keydown", KeyDownCommand},
+    {"enter", EnterCommand, false, true},
+    {"dropdown", DropDownCommand},
+    {"event", EventCommand},
     {"track-ended",
      [](const Words&) {
          ActiveMP31_StateChange(3);
          return std::string("ok");
      },
-     false},
-    {"player-state", PlayerStateCommand, false},
+     false, true},
+    {"player-state", PlayerStateCommand},
     {"restore",
      [](const Words&) {
          MainScreen_Resize();
          return std::string("ok");
      },
-     false},
+     false, true},
     {"close",
      [](const Words&) {
          ShutdownDisplay();
          return std::string("ok");
      },
-     false},
+     false, true},
     {"get", GetCommand, true},
     {"front", FrontCommand, true},
     {"state", StateCommand, true},
-    {"set", SetCommand, false},
-    {"put", PutCommand, false},
-    {"settag", SetTagCommand, false},
-    {"call", CallCommand, false},
-    {"log", LogCommand, true},
-    {"running", [](const Words&) { return std::string(Ended ? "0" : "1"); }, true},
+    {"set", SetCommand},
+    {"put", PutCommand},
+    {"settag", SetTagCommand},
+    {"call", CallCommand},
+    {"log", LogCommand, true, true},
+    {"running", [](const Words&) { return std::string(Ended ? "0" : "1"); }, true, true},
+    {"quit",
+     [](const Words&) {
+         Leaving = true;
+         return std::string("ok");
+     },
+     true, true},
 };
 
 static std::string RunCommand(const std::string& Line)
@@ -456,6 +477,7 @@ static std::string RunCommand(const std::string& Line)
     if (TakesRest) return Name == "type" ? TypeCommand(Rest) : ChooseCommand(Rest);
     const std::optional<Words> Given = SplitArguments(Rest);
     if (!Given) return "error: a quote stays open";
+    if (Command->Alone && !Given->empty()) return "error: " + Name + " takes no argument";
     return Command->Run(*Given);
 }
 
@@ -470,13 +492,9 @@ int main(int Count, char** Arguments)
     FillPlatform();
     InitElements();
     SetAllHandlers();
-    for (std::string Line; std::getline(std::cin, Line);) {
+    for (std::string Line; !Leaving && std::getline(std::cin, Line);) {
         if (!Line.empty() && Line.back() == '\r') Line.pop_back();
-        if (Line.find_first_not_of(' ') == std::string::npos || Line[0] == '#') continue;
-        if (Line == "quit") {
-            std::cout << "ok" << std::endl;
-            return 0;
-        }
+        if (Line.find_first_not_of(" \t") == std::string::npos || Line[0] == '#') continue;
         std::cout << RunCommand(Line) << std::endl;
     }
     return 0;

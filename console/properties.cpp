@@ -3,7 +3,6 @@
 #include "frame/elements.h"
 
 #include <algorithm>
-#include <cstdio>
 
 const Element* ElementByName(const std::string& Text)
 {
@@ -66,10 +65,10 @@ static std::string ColourText(Colour C)
 std::string PropertyValue(const Element& E, const std::string& Property)
 {
     if (!HasProperty(E, Property)) return NoProperty(E, Property);
-    if (Property == "left") return NumberText(E.Left);
-    if (Property == "top") return NumberText(E.Top);
-    if (Property == "width") return NumberText(E.Width);
-    if (Property == "height") return NumberText(E.Height);
+    if (Property == "left") return LengthText(E.Left);
+    if (Property == "top") return LengthText(E.Top);
+    if (Property == "width") return LengthText(E.Width);
+    if (Property == "height") return LengthText(E.Height);
     if (Property == "visible") return E.Visible ? "1" : "0";
     if (Property == "shown") return IsShown(E) ? "1" : "0";
     if (Property == "picture") return QuotedText(PictureName(E.Shows));
@@ -82,7 +81,7 @@ std::string PropertyValue(const Element& E, const std::string& Property)
     if (Property == "enabled") return E.Enabled ? "1" : "0";
     if (Property == "interval") return std::to_string(E.Interval);
     const Point Place = ScreenPlace(E);
-    return NumberText(Place.X) + " " + NumberText(Place.Y);
+    return LengthText(Place.X) + " " + LengthText(Place.Y);
 }
 
 // A picture by the name that "get" answers.
@@ -102,12 +101,26 @@ static std::optional<Picture> ParsePicture(const std::string& Name)
     const Element* Store =
         Cell && Cell->Indexes.size() == 1 ? FindElement(Cell->Name, -1) : nullptr;
     if (!Store || Store->Kind != ElementKind::Store) return std::nullopt;
-    return CellPicture(*Store, Cell->Indexes[0]);
+    const int Number = Cell->Indexes[0];
+    if (Number < 0 || Number >= Store->Columns * Store->Rows) return std::nullopt;
+    return CellPicture(*Store, Number);
+}
+
+// "192,192,192", as "get" answers it.
+static std::optional<Colour> ParseColour(const std::string& Text)
+{
+    const std::optional<IndexedName> Parts = ParseName("(" + Text + ")");
+    if (!Parts || Parts->Indexes.size() != 3) return std::nullopt;
+    for (int Part : Parts->Indexes)
+        if (Part < 0 || Part > 255) return std::nullopt;
+    const auto Byte = [&](int Place) { return static_cast<std::uint8_t>(Parts->Indexes[Place]); };
+    return Colour{Byte(0), Byte(1), Byte(2)};
 }
 
 static std::string PutNumber(const Element& E, const std::string& Property, double Value)
 {
     const float New = static_cast<float>(Value);
+    if (Property == "interval" && Value < 1) return "error: an interval is 1 ms or more";
     if (Property == "left") SetPlace(E, New, E.Top);
     if (Property == "top") SetPlace(E, E.Left, New);
     if (Property == "width") SetSize(E, New, E.Height);
@@ -144,11 +157,9 @@ std::string PutProperty(const Element& E, const std::string& Property, const Arg
         if (!New) return "error: no picture " + Value.Text;
         SetPicture(E, *New);
     } else if (Property == "color") {
-        int Red, Green, Blue;
-        if (std::sscanf(Value.Text.c_str(), "%d,%d,%d", &Red, &Green, &Blue) != 3)
-            return "error: a colour is \"R,G,B\"";
-        SetInk(E, {static_cast<std::uint8_t>(Red), static_cast<std::uint8_t>(Green),
-                   static_cast<std::uint8_t>(Blue)});
+        const std::optional<Colour> New = ParseColour(Value.Text);
+        if (!New) return "error: a colour is \"R,G,B\"";
+        SetInk(E, *New);
     } else {
         const std::optional<double> Number = RealNumber(Value.Text);
         if (!Number) return "error: " + Value.Text + " is no number";

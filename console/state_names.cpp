@@ -224,7 +224,11 @@ static void RegisterAll()
     CELLS(PairMarked, UpTo(0, S.PairMarked(0)));
     VALUE(PeekMode);
     VALUE(PushMode);
-    VALUE(MixList);
+    CELLS(MixList, [] {
+        int Tiles = 0;
+        while (Tiles < TileCount && GameState.MixList(Tiles + 1) != 0) ++Tiles;
+        return std::pair<int, int>(1, Tiles);
+    });
     CELLS(FreeTiles, UpTo(1, S.FreeCount));
     CELLS(FreeFaces, UpTo(1, S.FreeCount));
     VALUE(FreeCount);
@@ -354,8 +358,11 @@ static std::string ListCells(const StateVariable& Variable, const std::string& F
         Last = Variable.InUse().second - Variable.First[0];
     }
     std::string Text;
-    for (int Cell = First; Cell <= Last && Cell < Count; ++Cell)
-        Text += (Cell == First ? "" : " ") + Variable.Get(Cell, Field);
+    for (int Cell = First; Cell <= Last && Cell < Count; ++Cell) {
+        const std::string Value = Variable.Get(Cell, Field);
+        if (Value == NoField) return NoField;
+        Text += (Cell == First ? "" : " ") + Value;
+    }
     return Text;
 }
 

@@ -1,20 +1,31 @@
 #include "console/console.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 
 std::string QuotedText(std::string_view Text)
 {
     std::string Result = "\"";
-    for (char C : Text) Result += C == '"' ? std::string("\"\"") : std::string(1, C);
+    // A line end inside a text would end the answer.
+    for (char C : Text)
+        Result += C == '"' ? "\"\"" : std::string(1, C == '\n' || C == '\r' ? ' ' : C);
     return Result + "\"";
 }
 
 std::string NumberText(double Value)
 {
-    char Text[32];
-    std::snprintf(Text, sizeof Text, "%.6g", Value);
-    return Text;
+    char Text[400];
+    const auto End = std::to_chars(Text, std::end(Text), Value + 0.0, std::chars_format::fixed).ptr;
+    return {Text, End};
+}
+
+std::string LengthText(double Value)
+{
+    char Rounded[32];
+    std::snprintf(Rounded, sizeof Rounded, "%.6g", Value);
+    return NumberText(std::strtod(Rounded, nullptr));
 }
 
 template <typename Number> static std::optional<Number> ReadNumber(const std::string& Text)
@@ -32,7 +43,8 @@ std::optional<int> WholeNumber(const std::string& Text)
 }
 std::optional<double> RealNumber(const std::string& Text)
 {
-    return ReadNumber<double>(Text);
+    const std::optional<double> Value = ReadNumber<double>(Text);
+    return Value && std::isfinite(*Value) ? Value : std::nullopt;
 }
 
 std::optional<std::vector<Argument>> SplitArguments(std::string_view Line)

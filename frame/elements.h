@@ -166,11 +166,11 @@ Point ScreenPlace(const Element& E); // its left top corner on its screen
 
 Picture NoPicture();
 Picture FilePicture(std::string_view Prefix, int Number); // "TS", 7: \DATA\TS0007; "PH": \PHOT
-Picture CellPicture(const Element& Store, int Cell);
-Picture StockPicture(const Element& Stock); // of frmClips
-Picture FormPicture(const Element& E);      // the picture drawn for this element
-std::string PictureName(const Picture& P);  // "\DATA\TS0007", "clpTileSet(36)", "form:picMenu"
-std::string PictureFile(const Picture& P);  // of a File picture
+Picture CellPicture(const Element& Store, int Cell);      // a cell that the store lacks is fatal
+Picture StockPicture(const Element& Stock);               // of frmClips
+Picture FormPicture(const Element& E);                    // the picture drawn for this element
+std::string PictureName(const Picture& P); // "\DATA\TS0007", "clpTileSet(36)", "form:picMenu"
+std::string PictureFile(const Picture& P); // of a File picture
 // Checks that the file is there, whole and of that size in pixels (0: any), and assigns it. A file
 // that is not is a fatal error with its name.
 void LoadPicture(const Element& E, std::string_view Prefix, int Number, int Width, int Height);

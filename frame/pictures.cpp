@@ -18,6 +18,10 @@ Picture FilePicture(std::string_view Prefix, int Number)
 
 Picture CellPicture(const Element& Store, int Cell)
 {
+    const int Last = Store.Columns * Store.Rows - 1;
+    if (Cell < 0 || Cell > Last)
+        FatalError(std::string(Store.Name) + "(" + std::to_string(Cell) + ") is outside 0.." +
+                   std::to_string(Last));
     return {.Kind = PictureKind::Cell, .Number = Cell, .Owner = Store.Id};
 }
 
