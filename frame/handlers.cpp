@@ -42,7 +42,6 @@ static void SetControlBarHandlers()
         if (E.Panel == picBevelRight.Id || E.Panel == picNote.Id ||
             (E.Panel >= picGamePanel(1).Id && E.Panel <= picGamePanel(3).Id))
             SetHandlers(E, {.MouseMove = picBoard_MouseMove});
-    SetHandlers(picBevelRight, {.MouseMove = picBoard_MouseMove});
     SetHandlers(picNote, {.MouseMove = picBoard_MouseMove, .Click = HideNoteOnClick});
 
     const auto Button = [](const Element& E, IndexHandler Press, IndexHandler Action) {
@@ -77,6 +76,14 @@ static void SetBoxHandlers()
     SetHandlers(imgCongratsOK, {.Action = imgCongratsOK_Action});
 }
 
+// The pointer leaves the tiles over any panel.
+static void LetPanelsClearTheHover()
+{
+    for (Element& E : Elements)
+        if (E.Kind == ElementKind::Panel && !E.Does.MouseMove)
+            E.Does.MouseMove = picBoard_MouseMove;
+}
+
 void SetAllHandlers()
 {
     SetHandlers(tmrLogo, {.Tick = tmrLogo_Tick});
@@ -92,4 +99,5 @@ void SetAllHandlers()
     SetHandlers(lblCloseGame, {.Click = CloseOnClick});
     SetScreenHandlers();
     SetRecordHandlers();
+    LetPanelsClearTheHover();
 }

@@ -152,6 +152,39 @@ TEST(Hover, TheBoardAndTheBarClearIt)
     EXPECT_EQ(GameState.HoverTile, 1);
 }
 
+TEST(Hover, APanelOverTheBoardClearsIt)
+{
+    StandPairs();
+    imgPeek_Action(0);
+    PressTile(3);
+    HoverTile(1);
+    ASSERT_EQ(StateOf(1), 1);
+    const Point Box = ScreenPlace(picPeek);
+    EXPECT_EQ(SendMouseMove(Box.X + 2, Box.Y + 2), &picPeek);
+    EXPECT_EQ(StateOf(1), 0);
+    HoverTile(1);
+    Show(picBlack);
+    Show(picMenu);
+    EXPECT_EQ(SendMouseMove(360, 60), &picMenu);
+    EXPECT_EQ(StateOf(1), 0);
+}
+
+TEST(Hover, MarkedTilesStayMarkedWhereverThePointerGoes)
+{
+    StandPairs();
+    HoverTile(1);
+    imgPair_Action(0);
+    picBoard_MouseMove(0, MouseButton::Left, 0, 0);
+    EXPECT_EQ(StateOf(1), 1) << "an armed PAIR holds the hover";
+    PressTile(1);
+    EXPECT_EQ(StateOf(1), 2);
+    HoverTile(3);
+    picBoard_MouseMove(0, MouseButton::Left, 0, 0);
+    EXPECT_EQ(StateOf(1), 2);
+    EXPECT_EQ(StateOf(3), 0);
+    EXPECT_EQ(GameState.HoverTile, 1);
+}
+
 TEST(PressOnBoard, BringsTheCountBackUnlessAPowerWaits)
 {
     StandPairs();
