@@ -23,7 +23,8 @@ inline std::string FreshGameDirectory()
 // The idle main screen of a first run.
 inline void BootGame()
 {
-    static long long Time = 0;
+    static long long Time;
+    Time = 0;
     GameState = GameStateRecord();
     GameDirectory = FreshGameDirectory();
     Platform.Milliseconds = [] { return Time; };
