@@ -289,7 +289,8 @@ void RunDictionary(const std::string& Word, std::int16_t& Code)
     DictionaryState.Target = Word;
     UpperCase(DictionaryState.Target);
     if (Command == AddInMiddle || Command == AddAtOverflow) {
-        Code = AddWord(Command == AddAtOverflow);
+        // A word of one letter is good for every command; no file holds any.
+        Code = Word.size() == 1 ? std::int16_t{-1} : AddWord(Command == AddAtOverflow);
         return;
     }
     if (PassesUnread(Word, Command)) {

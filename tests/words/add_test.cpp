@@ -113,6 +113,17 @@ TEST(AddWord, LeavesAFileWithAHeaderAlone)
     EXPECT_EQ(ReadFile(TestFile("main")), File);
 }
 
+TEST(AddWord, AWordOfOneLetterIsGoodWithoutBeingStored)
+{
+    for (const std::int16_t Code : {AddInMiddle, AddAtOverflow}) {
+        EXPECT_EQ(Add({"BEE,CAT"}, "A", Code), (Texts{"BEE,CAT"}));
+        const std::string File = Headed({2}, {"ACE,AGE"}, {IndexBlock({{2000, {{1, 1}}}})});
+        Open("main", File);
+        EXPECT_EQ(Ask("A", Code), -1);
+        EXPECT_EQ(ReadFile(TestFile("main")), File);
+    }
+}
+
 TEST(AddWord, ABlockOfTooManyWordsStaysAsItIs)
 {
     std::string Block = "A";
