@@ -29,7 +29,7 @@ void LoadLayoutNames()
 {
     const std::string File = DataFile("LY", 0);
     Bytes Content;
-    if (!ReadWholeFile(File, Content)) FatalError(File + " is missing or cannot be read");
+    if (!ReadFileStart(File, Content, MostText)) FatalError(File + " is missing or cannot be read");
     std::string_view Text(reinterpret_cast<const char*>(Content.data()), Content.size());
     std::string Line;
     for (int Index = 1; Index <= NameLines; ++Index) {
@@ -66,7 +66,7 @@ void LoadLayoutGeometry()
                     GameState.LayoutData216.Size + GameState.LayoutData288.Size);
     const std::string File = GeometryFile();
     Bytes Content;
-    if (!ReadWholeFile(File, Content)) FatalError(File + " is missing or cannot be read");
+    if (!ReadFileStart(File, Content, Size)) FatalError(File + " is missing or cannot be read");
     if (Content.size() < Size)
         FatalError(File + " has " + std::to_string(Content.size()) + " bytes and should have " +
                    std::to_string(Size));

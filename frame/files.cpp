@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -35,12 +38,12 @@ bool FileExists(std::string_view Path)
     return stat(HostPath(Path).c_str(), &Status) == 0 && S_ISREG(Status.st_mode);
 }
 
-bool ReadWholeFile(std::string_view Path, Bytes& Content)
+bool ReadFileStart(std::string_view Path, Bytes& Content, std::size_t Most)
 {
     Content.clear();
     const int Handle = OpenForReading(HostPath(Path));
     if (Handle == 0) return false;
-    Content.resize(static_cast<std::size_t>(FileLength(Handle)));
+    Content.resize(std::min(static_cast<std::size_t>(FileLength(Handle)), Most));
     const int Read = ReadAt(Handle, 0, Content.data(), static_cast<int>(Content.size()));
     CloseFile(Handle);
     Content.resize(static_cast<std::size_t>(Read));
@@ -66,13 +69,43 @@ static void SyncFolder(const std::string& Folder)
     close(Handle);
 }
 
+// The file that a save writes into carries the number of its process, which keeps two games in one
+// directory from writing into one another's.
+constexpr std::string_view BesideEnding = ".new";
+
+// 0 when the name is not that of a file beside the one of the name Final.
+static pid_t SavingProcess(std::string_view Name, std::string_view Final)
+{
+    if (!Name.starts_with(Final)) return 0;
+    Name.remove_prefix(Final.size());
+    if (!Name.starts_with(BesideEnding)) return 0;
+    Name.remove_prefix(BesideEnding.size());
+    pid_t Process = 0;
+    const auto [End, Error] = std::from_chars(Name.data(), Name.data() + Name.size(), Process);
+    return Error == std::errc() && End == Name.data() + Name.size() && Process > 0 ? Process : 0;
+}
+
+// Of saves whose process was killed; the others may be under way.
+static void RemoveLeftovers(const std::string& Folder, const std::string& Final)
+{
+    DIR* Listing = opendir(Folder.c_str());
+    if (Listing == nullptr) return;
+    while (const dirent* Entry = readdir(Listing)) {
+        const pid_t Process = SavingProcess(Entry->d_name, Final);
+        if (Process != 0 && kill(Process, 0) != 0 && errno == ESRCH)
+            unlink((Folder + "/" + Entry->d_name).c_str());
+    }
+    closedir(Listing);
+}
+
 bool WriteWholeFile(std::string_view Path, std::span<const std::uint8_t> Content, std::string& Why)
 {
     const std::string Final = HostPath(Path);
-    const std::string Folder = Final.substr(0, Final.rfind('/'));
+    const std::size_t Slash = Final.rfind('/');
+    const std::string Folder = Final.substr(0, Slash);
     mkdir(Folder.c_str(), 0777);
-    // The process number keeps two games in one directory from writing into one another's file.
-    const std::string Beside = Final + ".new" + std::to_string(getpid());
+    RemoveLeftovers(Folder, Final.substr(Slash + 1));
+    const std::string Beside = Final + std::string(BesideEnding) + std::to_string(getpid());
     const int Handle = open(Beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     bool Done = Handle >= 0 && WriteAndSync(Handle, Content);
     if (!Done) Why = std::strerror(errno);

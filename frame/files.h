@@ -20,11 +20,13 @@ std::string FourDigits(int Number);          // 7 -> "0007"; the last four digit
 std::string DataFile(std::string_view Prefix, int Number); // "TS", 7 -> "\DATA\TS0007"
 
 bool FileExists(std::string_view Path);
-// The whole file; false when it is missing, a folder or not readable.
-bool ReadWholeFile(std::string_view Path, Bytes& Content);
+// The first bytes of a file, Most of them if it has so many: a file of any length must not take all
+// memory. False when it is missing, a folder or not readable.
+bool ReadFileStart(std::string_view Path, Bytes& Content, std::size_t Most);
+constexpr std::size_t MostText = 1 << 20; // no text file of the game is longer
 // Beside the old file, synced, then renamed over it: at any instant the old content or the new one
-// stands on the disk. Makes the folder when it is missing. False when it could not be done; Why
-// then holds the system's reason.
+// stands on the disk. Makes the folder when it is missing, and removes what a killed save has left.
+// False when it could not be done; Why then holds the system's reason.
 bool WriteWholeFile(std::string_view Path, std::span<const std::uint8_t> Content, std::string& Why);
 
 // Takes the next line off a text; both line endings are accepted. False at the end of the text.

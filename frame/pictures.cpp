@@ -2,6 +2,8 @@
 #include "frame/elements.h"
 #include "frame/files.h"
 
+#include <cctype>
+#include <cstdlib>
 #include <cstring>
 
 Picture NoPicture()
@@ -71,7 +73,7 @@ void LoadPicture(const Element& E, std::string_view Prefix, int Number, int Widt
 
 struct PictureHeader {
     bool Whole = false;
-    int Width = 0, Height = 0;
+    long long Width = 0, Height = 0;
 };
 
 static std::uint32_t BigEndian(const std::uint8_t* At, int Count)
@@ -89,19 +91,19 @@ static std::uint32_t LittleEndian(const std::uint8_t* At, int Count)
 }
 
 // PNG: a signature of 8 bytes, then chunks of length, type, data and check sum; the first holds the
-// size, the last is IEND.
+// size, the last is IEND. A type of other bytes than letters ends the walk: a file of empty chunks
+// would take one of millions of steps.
 static PictureHeader PngHeader(int Handle, long long Length)
 {
     PictureHeader Header;
-    std::uint8_t Chunk[24];
+    std::uint8_t Chunk[16] = {};
     for (long long At = 8; At + 12 <= Length;) {
-        if (ReadAt(Handle, At, Chunk, 16) < 12) return Header;
+        if (ReadAt(Handle, At, Chunk, 16) < 12 || !std::isalpha(Chunk[4])) return Header;
         const long long Data = BigEndian(Chunk, 4);
         if (At + 12 + Data > Length) return Header;
         if (At == 8) {
-            Header.Width = static_cast<int>(BigEndian(Chunk + 8, 4));
-            if (ReadAt(Handle, At + 12, Chunk, 4) < 4) return Header;
-            Header.Height = static_cast<int>(BigEndian(Chunk, 4));
+            Header.Width = BigEndian(Chunk + 8, 4);
+            Header.Height = BigEndian(Chunk + 12, 4);
         } else if (std::memcmp(Chunk + 4, "IEND", 4) == 0) {
             Header.Whole = true;
             return Header;
@@ -121,8 +123,8 @@ static PictureHeader JpegHeader(int Handle, long long Length)
         const bool Frame =
             Type >= 0xC0 && Type <= 0xCF && Type != 0xC4 && Type != 0xC8 && Type != 0xCC;
         if (Frame) {
-            Header.Height = static_cast<int>(BigEndian(Segment + 5, 2));
-            Header.Width = static_cast<int>(BigEndian(Segment + 7, 2));
+            Header.Height = BigEndian(Segment + 5, 2);
+            Header.Width = BigEndian(Segment + 7, 2);
             Header.Whole =
                 ReadAt(Handle, Length - 2, End, 2) == 2 && End[0] == 0xFF && End[1] == 0xD9;
             return Header;
@@ -137,8 +139,8 @@ static PictureHeader BmpHeader(int Handle, long long Length)
     PictureHeader Header;
     std::uint8_t Start[26];
     if (ReadAt(Handle, 0, Start, 26) < 26) return Header;
-    Header.Width = static_cast<int>(LittleEndian(Start + 18, 4));
-    Header.Height = std::abs(static_cast<int>(LittleEndian(Start + 22, 4)));
+    Header.Width = LittleEndian(Start + 18, 4);
+    Header.Height = std::llabs(static_cast<std::int32_t>(LittleEndian(Start + 22, 4)));
     Header.Whole = LittleEndian(Start + 2, 4) <= Length;
     return Header;
 }

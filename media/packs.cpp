@@ -47,7 +47,7 @@ static void ReadPack(const std::string& Name)
     if (List * LayoutsOfPack + LayoutsOfPack > LastLayoutIndex)
         FatalError(File + ": the highest number of a content pack is 22");
     Bytes Content;
-    if (!ReadWholeFile(File, Content)) FatalError(File + " cannot be read");
+    if (!ReadFileStart(File, Content, MostText)) FatalError(File + " cannot be read");
     std::string_view Text(reinterpret_cast<const char*>(Content.data()), Content.size());
     int Line = 0;
     for (int I = 0; I < SetsOfPack; ++I)
