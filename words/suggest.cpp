@@ -93,7 +93,7 @@ static long long FindIndexBlock(int Key, long long IndexStart)
         }
     }
     if (High >= IndexStart && ReadBlock(High) && FindEntry(Key) >= 0) return High;
-    return High + 1 >= IndexStart && ReadBlock(High + 1) && KeyAt(0) == Key ? High + 1 : 0;
+    return High + 1 >= IndexStart && ReadBlock(High + 1) && FindEntry(Key) == 0 ? High + 1 : 0;
 }
 
 // Whether a candidate is near enough to the target. All but the target's copy is kept from one

@@ -100,6 +100,13 @@ TEST(FindSuggestions, ACountThatLiesStaysInItsBlock)
     EXPECT_LE(Found.size(), 25u);
 }
 
+// The key of a word without sounding letters is that of the zero entry.
+TEST(FindSuggestions, AnIndexBlockOfZerosHasNoEntryOfKeyZero)
+{
+    EXPECT_EQ(Suggest("AYE", {IndexBlock({})}), Words{});
+    EXPECT_EQ(Suggest("AYE", {IndexBlock({{0, {{1, 1}}}})}), Words{"ACE"});
+}
+
 TEST(FindSuggestions, AFileWithoutHeaderHasNone)
 {
     Open("headerless", Blocks({"ACE,AGE"}));
