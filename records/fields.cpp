@@ -4,26 +4,32 @@
 #include <filesystem>
 #include <fstream>
 
-static std::uint8_t& ByteAt(RecordFile& File, int Offset)
+static std::span<std::uint8_t> BytesAt(RecordFile& File, int Offset, int Width)
 {
-    if (Offset < 0 || Offset >= static_cast<int>(File.Content.size()))
+    if (Offset < 0 || Offset + Width > static_cast<int>(File.Content.size()))
         FatalError("field offset " + std::to_string(Offset) + " is outside a record file of " +
                    std::to_string(File.Content.size()) + " bytes");
-    return File.Content[static_cast<std::size_t>(Offset)];
+    return std::span(File.Content)
+        .subspan(static_cast<std::size_t>(Offset), static_cast<std::size_t>(Width));
 }
 
 static void PutNumber(RecordFile& File, int Offset, int Width, int Value)
 {
-    for (int I = 0; I < Width; ++I)
-        ByteAt(File, Offset + I) =
-            static_cast<std::uint8_t>(static_cast<std::uint32_t>(Value) >> (8 * I));
+    auto Bits = static_cast<std::uint32_t>(Value);
+    for (std::uint8_t& Byte : BytesAt(File, Offset, Width)) {
+        Byte = static_cast<std::uint8_t>(Bits);
+        Bits >>= 8;
+    }
 }
 
 static std::uint32_t TakeNumber(RecordFile& File, int Offset, int Width)
 {
     std::uint32_t Value = 0;
-    for (int I = 0; I < Width; ++I)
-        Value |= static_cast<std::uint32_t>(ByteAt(File, Offset + I)) << (8 * I);
+    int Shift = 0;
+    for (const std::uint8_t Byte : BytesAt(File, Offset, Width)) {
+        Value |= static_cast<std::uint32_t>(Byte) << Shift;
+        Shift += 8;
+    }
     return Value;
 }
 
@@ -86,11 +92,21 @@ static std::string SingleBytes(const std::string& Text)
     return Result;
 }
 
-static std::string Utf8(std::uint8_t Byte)
+static bool IsVisible(std::uint8_t Byte)
 {
-    if (Byte < ' ' || (Byte > '~' && Byte < 0xA0)) return " ";
-    if (Byte < 0x80) return std::string(1, static_cast<char>(Byte));
-    return {static_cast<char>(0xC0 | (Byte >> 6)), static_cast<char>(0x80 | (Byte & 0x3F))};
+    return (Byte > ' ' && Byte <= '~') || Byte >= 0xA0;
+}
+
+static void AppendUtf8(std::string& Text, std::uint8_t Byte)
+{
+    if (!IsVisible(Byte)) {
+        Text += ' ';
+    } else if (Byte < 0x80) {
+        Text += static_cast<char>(Byte);
+    } else {
+        Text += static_cast<char>(0xC0 | (Byte >> 6));
+        Text += static_cast<char>(0x80 | (Byte & 0x3F));
+    }
 }
 
 std::string Trimmed(const std::string& Text)
@@ -116,18 +132,16 @@ std::string LowerCase(const std::string& Text)
 
 void FieldText(RecordFile& File, int Offset, std::string& Text, int Width)
 {
+    std::span<std::uint8_t> Field = BytesAt(File, Offset, Width);
     if (File.Writing) {
-        const std::string Aligned =
-            std::string(static_cast<std::size_t>(Width), ' ') + SingleBytes(Text);
-        const std::size_t Start = Aligned.size() - static_cast<std::size_t>(Width);
-        for (int I = 0; I < Width; ++I)
-            ByteAt(File, Offset + I) =
-                static_cast<std::uint8_t>(Aligned[Start + static_cast<std::size_t>(I)]);
+        const std::string Aligned = std::string(Field.size(), ' ') + SingleBytes(Text);
+        std::copy_n(Aligned.end() - Width, Width, Field.begin());
         return;
     }
-    std::string Read;
-    for (int I = 0; I < Width; ++I) Read += Utf8(ByteAt(File, Offset + I));
-    Text = Trimmed(Read);
+    while (!Field.empty() && !IsVisible(Field.front())) Field = Field.subspan(1);
+    while (!Field.empty() && !IsVisible(Field.back())) Field = Field.first(Field.size() - 1);
+    Text.clear();
+    for (const std::uint8_t Byte : Field) AppendUtf8(Text, Byte);
 }
 
 // --- whole files ---
@@ -160,8 +174,8 @@ RecordFile ReadRecordFile(const std::string& Path, int Size)
     return File;
 }
 
-// No version of a record file was ever longer: what is, is no record file of ours.
-constexpr long long LongestFile = 1 << 20;
+// What is longer is no record file of ours.
+constexpr long long LongestFile = 1 << 26;
 
 // Appends what the file on disk has beyond the content.
 static bool AppendTail(const std::string& Path, Bytes& Content)

@@ -3,8 +3,6 @@
 #include "records/fields.h"
 #include "records/records.h"
 
-#include <algorithm>
-
 constexpr const char* HistoryFile = "\\History.dat";
 constexpr int GameTypes = 3, Lists = 3, Rows = 42; // the newest is row 1; row 43 is a spill row
 constexpr int AllGames = 1;                        // the list of every recorded game
@@ -46,22 +44,11 @@ static void WalkWonLost(RecordFile& File)
     }
 }
 
-static bool IsDate(const std::string& Date)
-{
-    const auto IsDigit = [](char C) { return C >= '0' && C <= '9'; };
-    if (Date.size() != 8 || !std::all_of(Date.begin(), Date.end(), IsDigit)) return false;
-    const int Month = std::stoi(Date.substr(2, 2));
-    return Month >= 1 && Month <= 12;
-}
-
 void LoadHistory()
 {
     RecordFile File = ReadRecordFile(HistoryFile, HistorySize);
     GameState.History.Clear();
     WalkHistory(File);
-    // A row without a date is an empty one; a damaged date would name no month.
-    for (HistoryRow& Row : GameState.History.Cells)
-        if (!IsDate(Row.Date)) Row.Date.clear();
 }
 
 void SaveHistory()

@@ -13,8 +13,8 @@ static void WalkEntry(RecordFile& File, int Offset, ScoreEntry& Entry)
     FieldText(File, Offset, Entry.Name, 12);
     // Below 0 stands no score: a game that made no point would beat it.
     Field16(File, Offset + 12, Entry.Score, {0, 32767});
-    FieldByte(File, Offset + 14, Entry.Day, {1, 31});
-    FieldByte(File, Offset + 15, Entry.Month, {1, 12});
+    FieldByte(File, Offset + 14, Entry.Day);
+    FieldByte(File, Offset + 15, Entry.Month);
     Field16(File, Offset + 16, Entry.Year);
 }
 

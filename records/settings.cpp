@@ -75,6 +75,7 @@ static bool IsInstalled(int List)
 // that stands past the last set begins again.
 static void LeaveMissingPacks()
 {
+    if (GameState.LayoutListCount == 0) return; // no scan yet: nothing is known to be missing
     if (!IsInstalled(GameState.TileGroupShown)) {
         GameState.TileGroupShown = 0;
         GameState.TilePageCursor = 1;

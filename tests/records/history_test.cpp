@@ -1,3 +1,4 @@
+#include "screens/screens.h"
 #include "tests/records/records_test.h"
 
 namespace
@@ -146,16 +147,36 @@ TEST_F(History, ThreeThousandIsTheLastIndex)
                 "LayoutIndex 3001 is above 3000");
 }
 
-TEST_F(History, ARowWithADamagedDateIsAnEmptyOne)
+// A row shows as far as its date can be read: a month that does not exist has no name, and a row
+// without a year is an empty one.
+TEST_F(History, ADateOfAnyBytesIsKeptAndShownAsFarAsItCanBeRead)
 {
-    const char* const Dates[] = {"01772026", "01002026", "0112202",
-                                 "0112202x", "-1122026", "        "};
+    const struct {
+        const char *Date, *Day, *Month, *Year;
+    } Rows[] = {{"01772026", "1", "", "2026"},     {"01002026", "1", "", "2026"},
+                {"11122026", "11", "Dec", "2026"}, {"1122026", "11", "", "2026"},
+                {"0112202x", "1", "Dec", "202x"},  {"2026", "20", "", "2026"}};
+    const char* const Empty[] = {"", "126", "01120000", "0112x026", "abcdefgh"};
     FileBytes File;
-    for (const char* Date : Dates)
+    for (const auto& R : Rows)
+        File.Text("ann", 12).Text("1", 2).Number(19).Number(5).Text(R.Date, 8);
+    for (const char* Date : Empty)
         File.Text("ann", 12).Text("1", 2).Number(19).Number(5).Text(Date, 8);
     PutFile("History.dat", File.Bytes);
     LoadHistory();
-    for (int I = 1; I <= 6; ++I) EXPECT_EQ(Row(1, I).Date, "") << Dates[I - 1];
+    GameState.GameType = Finesse;
+    GameState.HistoryView = 1;
+    ShowHistory();
+    for (int I = 0; I < 6; ++I) {
+        EXPECT_EQ(Row(1, I + 1).Date, Rows[I].Date);
+        EXPECT_TRUE(lblHisDay(I).Visible) << I;
+        EXPECT_EQ(lblHisDay(I).Caption, Rows[I].Day);
+        EXPECT_EQ(lblHisMonth(I).Caption, Rows[I].Month);
+        EXPECT_EQ(lblHisYear(I).Caption, Rows[I].Year);
+    }
+    for (int I = 6; I < 11; ++I) EXPECT_FALSE(lblHisDay(I).Visible) << Empty[I - 6];
+    SaveHistory();
+    EXPECT_EQ(FileContent("History.dat").substr(0, File.Bytes.size()), File.Bytes);
 }
 
 TEST_F(History, ADamagedLayoutIndexReadsAsZero)

@@ -251,20 +251,30 @@ TEST_F(Scores, ALongerFileIsReadFromItsStartAndItsTailIsDropped)
     EXPECT_EQ(FirstDifference(FileContent("SCOR/Scores-A"), FullFile()), "");
 }
 
-TEST_F(Scores, DamagedNumbersReadAsZero)
+TEST_F(Scores, DayAndMonthAreBytesWithoutASign)
 {
-    PutFile("SCOR/Scores-A",
-            FileBytes().Text("ann", 12).Number(-5).Number(200, 1).Number(200, 1).Number(-1).Bytes);
+    const std::string Record =
+        FileBytes().Text("ann", 12).Number(5).Number(200, 1).Number(255, 1).Number(-1).Bytes;
+    PutFile("SCOR/Scores-A", Record);
     LoadScores();
     const ScoreEntry& Entry = GameState.ScoreTable(1, 1, 1);
-    EXPECT_EQ(Entry.Name, "ann");
-    EXPECT_EQ(Entry.Score, 0);
-    EXPECT_EQ(Entry.Day, 0);
-    EXPECT_EQ(Entry.Month, 0);
+    EXPECT_EQ(Entry.Day, 200);
+    EXPECT_EQ(Entry.Month, 255);
+    EXPECT_EQ(Entry.Year, -1);
     EXPECT_EQ(MonthText(Entry.Month), "");
     EXPECT_EQ(MonthText(12), "Dec");
+    SaveScores();
+    EXPECT_EQ(FileContent("SCOR/Scores-A").substr(0, 18), Record);
+}
+
+TEST_F(Scores, AScoreBelowZeroReadsAsZeroSoThatZeroNeverRanks)
+{
+    PutFile("SCOR/Scores-A", FileBytes().Text("ann", 12).Number(-5).Bytes);
+    LoadScores();
+    EXPECT_EQ(GameState.ScoreTable(1, 1, 1).Name, "ann");
+    EXPECT_EQ(GameState.ScoreTable(1, 1, 1).Score, 0);
     GameState.GameType = Finesse;
     GameState.LayoutNumber = 1;
-    ScoreRankFor(0); // must not beat the damaged entry
+    ScoreRankFor(0);
     EXPECT_EQ(GameState.ScoreRank, 0);
 }

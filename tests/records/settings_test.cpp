@@ -275,8 +275,6 @@ TEST_F(Settings, ALongerFileKeepsItsTail)
     SaveWhereTheWindowWas();
     SettingsModel Model;
     Model.MusicOn = 0;
-    Model.LayoutGroup = Model.TileGroupShown = 0;
-    Model.TilePageCursor = Model.LayoutSetCursor = 1;
     EXPECT_EQ(FirstDifference(FileContent("Settings.dat"), Model.File() + Tail), "");
 }
 
@@ -411,6 +409,16 @@ TEST_F(Settings, ChoicesFromAPackThatIsGoneGoBackToTheFirstList)
     EXPECT_EQ(GameState.LayoutGroup, 6);
     EXPECT_EQ(GameState.TileSetFixed, 168);
     EXPECT_EQ(GameState.TileSetRotate, 120);
+}
+
+TEST_F(Settings, BeforeAScanOfThePacksNoneIsMissing)
+{
+    const SettingsModel Model; // lists 3 and 6, tile set 41 of the cycle
+    LoadFrom(Model.File());
+    EXPECT_EQ(GameState.LayoutGroup, 3);
+    EXPECT_EQ(GameState.TileGroupShown, 6);
+    EXPECT_EQ(GameState.LayoutSetCursor, 4); // as it stood: nothing matches
+    EXPECT_EQ(GameState.TilePageCursor, 5);
 }
 
 TEST_F(Settings, ReadingADamagedFileLeavesItOnTheDisk)
