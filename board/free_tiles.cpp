@@ -9,13 +9,13 @@ bool IsBlocked(int X, int Y, int Z)
     const I16* Here = &Map(X, Y, Z);
     constexpr int StepX = 42 * 11, StepY = 11, StepZ = 1;
 
-    const auto Side = [&](int At) {
-        return (Here[At - StepY] == 1) | (Here[At] == 1) | (Here[At + StepY] == 1);
-    };
-    const bool LeftTaken = Side(-2 * StepX);
-    const bool RightTaken = Side(2 * StepX);
-    const bool Covered = Side(StepZ - StepX) | Side(StepZ) | Side(StepZ + StepX);
-    return (LeftTaken && RightTaken) || Covered;
+    // As numbers, so that nothing branches.
+    const auto Taken = [&](int At) { return static_cast<int>(Here[At] == 1); };
+    const auto Side = [&](int At) { return Taken(At - StepY) | Taken(At) | Taken(At + StepY); };
+    const int LeftTaken = Side(-2 * StepX);
+    const int RightTaken = Side(2 * StepX);
+    const int Covered = Side(StepZ - StepX) | Side(StepZ) | Side(StepZ + StepX);
+    return (LeftTaken & RightTaken) != 0 || Covered != 0;
 }
 
 void ScanOpenPairs()

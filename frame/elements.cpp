@@ -243,14 +243,14 @@ void Hide(const ElementArray& A)
     for (int I = A.First; I < A.First + A.Count; ++I) Hide(A(I));
 }
 
-void SetPlace(const Element& E, float Left, float Top)
+void SetPlace(const Element& E, float NewLeft, float NewTop)
 {
-    if (E.Left == Left && E.Top == Top) return;
+    if (E.Left == NewLeft && E.Top == NewTop) return;
     MarkStale(E);
-    Changeable(E).Left = Left;
-    Changeable(E).Top = Top;
+    Changeable(E).Left = NewLeft;
+    Changeable(E).Top = NewTop;
     MarkStale(E);
-    if (&E == &frmMain) Platform.WindowPlace(static_cast<int>(Left), static_cast<int>(Top));
+    if (&E == &frmMain) Platform.WindowPlace(static_cast<int>(NewLeft), static_cast<int>(NewTop));
 }
 
 void SetSize(const Element& E, float Width, float Height)

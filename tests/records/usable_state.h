@@ -5,25 +5,32 @@
 
 #include <string>
 
-// The first number that would leave a table, or "".
-inline std::string UnusableNumber()
-{
-    const auto Between = [](int Value, int Low, int High) { return Value >= Low && Value <= High; };
-    const auto Installed = [](int List) {
-        if (List >= 0 && List <= 2) return true;
-        for (int I = 4; I <= GameState.LayoutListCount; ++I)
-            if (GameState.LayoutSets(I) == List) return true;
-        return false;
-    };
 #define MUST(Condition)                                                                            \
     if (!(Condition)) return #Condition
+
+inline bool Between(int Value, int Low, int High)
+{
+    return Value >= Low && Value <= High;
+}
+
+inline bool IsInstalledList(int List)
+{
+    if (List >= 0 && List <= 2) return true;
+    for (int I = 4; I <= GameState.LayoutListCount; ++I)
+        if (GameState.LayoutSets(I) == List) return true;
+    return false;
+}
+
+// Each names the first number that would leave a table, or "".
+inline std::string UnusableSetting()
+{
     MUST(Between(GameState.DisplayMode, 0, 1));
     MUST(Between(GameState.GameType, 1, 3));
     MUST(Between(GameState.MusicOn, 0, 1));
     MUST(Between(GameState.SoundLevel, 1, 2));
     MUST(Between(GameState.HelpBalloons, 0, 1));
     MUST(Between(GameState.TileSetFixed, 0, 600));
-    MUST(Installed((GameState.TileSetFixed - 1) / 24));
+    MUST(IsInstalledList((GameState.TileSetFixed - 1) / 24));
     MUST(Between(GameState.TileSetRotate, 0, GameState.TileSetCount));
     MUST(Between(GameState.TileSetRandom, 0, 1));
     MUST(GameState.TileSetFixed + GameState.TileSetRotate + GameState.TileSetRandom > 0);
@@ -32,9 +39,9 @@ inline std::string UnusableNumber()
     MUST(Between(GameState.BackdropRandom, 0, 1));
     MUST(GameState.BackdropFixed + GameState.BackdropRotate + GameState.BackdropRandom > 0);
     MUST(Between(GameState.CurrentTrack, 0, 30));
-    MUST(Installed(GameState.TileGroupShown));
+    MUST(IsInstalledList(GameState.TileGroupShown));
     MUST(Between(GameState.BackdropGroupShown, 0, 1));
-    MUST(Installed(GameState.LayoutGroup));
+    MUST(IsInstalledList(GameState.LayoutGroup));
     MUST(GameState.LayoutSets(GameState.TilePageCursor) == GameState.TileGroupShown);
     MUST(GameState.LayoutSets(GameState.LayoutSetCursor) == GameState.LayoutGroup);
     MUST(Between(GameState.RandomLayoutMode, 0, 6));
@@ -44,16 +51,32 @@ inline std::string UnusableNumber()
     MUST(Between(GameState.HistoryView, 1, 3));
     MUST(Between(GameState.GraphType, 1, 2));
     for (int Type = 1; Type <= 3; ++Type) MUST(Between(GameState.ProfileSizeClass(Type), 0, 4));
-    for (const ScoreEntry& Entry : GameState.ScoreTable.Cells)
-        MUST(Between(Entry.Score, 0, 32767) && Between(Entry.Month, 0, 12));
-    for (const HistoryRow& Row : GameState.History.Cells) {
-        MUST(Between(Row.LayoutIndex, 0, 3000));
-        MUST(Row.Date.empty() || Between(std::stoi(Row.Date.substr(2, 2)), 1, 12));
-    }
+    return "";
+}
+
+inline std::string UnusableScore()
+{
+    for (const ScoreEntry& Entry : GameState.ScoreTable.Cells) MUST(Entry.Score >= 0);
+    return "";
+}
+
+inline std::string UnusableHistory()
+{
+    for (const HistoryRow& Row : GameState.History.Cells) MUST(Between(Row.LayoutIndex, 0, 3000));
+    return "";
+}
+
+inline std::string UnusableCount()
+{
     for (int Index = 1; Index <= 3000; ++Index)
         MUST(GameState.LayoutWon(Index) >= 0 && GameState.LayoutLost(Index) >= 0);
-#undef MUST
     return "";
+}
+#undef MUST
+
+inline std::string UnusableNumber()
+{
+    return UnusableSetting() + UnusableScore() + UnusableHistory() + UnusableCount();
 }
 
 // The start of the game, as far as it reads records.
