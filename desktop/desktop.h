@@ -50,3 +50,4 @@ void MusicPlay();
 
 void FillPlatform();
 void OpenGameWindow();
+void DeliverTrackEnded(); // the player's track came to its end

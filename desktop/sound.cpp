@@ -5,8 +5,8 @@
 // it has been silent for a while: an open device takes processor time even for silence.
 #include "desktop/desktop.h"
 #include "frame/files.h"
-#include "media/media.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -20,9 +20,9 @@
 constexpr int Rate = 44100, Stereo = 2, BufferFrames = 2048;
 constexpr int EffectVoice = 0;
 constexpr int SilentSeconds = 10;
-// A track that cannot be played is passed over after so long, not at once: thirty missing files
-// must not race by.
-constexpr int BrokenTrackSeconds = 10;
+// A track that cannot be played or is over at once is passed over after so long: thirty missing
+// files must not race by.
+constexpr int BrokenTrackWait = 10000, ShortestTrack = 500; // milliseconds
 
 enum class Device { Closed, Opening, Open, Missing };
 
@@ -33,29 +33,37 @@ static Device State = Device::Closed;
 static std::string TrackFile, WaitingEffect;
 static bool PlayWanted = false;
 static Mix_Music* Track = nullptr;
-static std::atomic<int> TrackNumber = 0; // goes up with every stop, so that a late end is known
+static QElapsedTimer SinceTrackBegan;
+static std::atomic<int> TrackNumber = 0; // goes up with every end and stop: a late end is known
 static std::map<std::string, Mix_Chunk*> Effects;
 
-static void TellTrackEnded(int Number)
+static void TellTrackEnded(int Number, int Wait)
 {
-    const auto Tell = [Number] {
-        if (Number == TrackNumber) ActiveMP31_StateChange(3);
-    };
-    QMetaObject::invokeMethod(Receiver, Tell, Qt::QueuedConnection);
+    QTimer::singleShot(Wait, Receiver, [Number] {
+        if (Number != TrackNumber) return;
+        ++TrackNumber; // told once
+        DeliverTrackEnded();
+    });
 }
 
-// On the mixer's thread; also after a stop, which has moved TrackNumber on.
+static void OnTrackFinished(int Number)
+{
+    const bool OverAtOnce = SinceTrackBegan.elapsed() < ShortestTrack;
+    TellTrackEnded(Number, OverAtOnce ? BrokenTrackWait : 0);
+}
+
+// On the mixer's thread, or within a stop.
 static void OnMusicFinished()
 {
-    TellTrackEnded(TrackNumber);
+    QMetaObject::invokeMethod(
+        Receiver, [Number = TrackNumber.load()] { OnTrackFinished(Number); }, Qt::QueuedConnection);
 }
 
 static void StartTrack()
 {
+    SinceTrackBegan.start();
     Track = Mix_LoadMUS(HostPath(TrackFile).c_str());
-    if (Track && Mix_PlayMusic(Track, 1) == 0) return;
-    const int Number = TrackNumber;
-    QTimer::singleShot(BrokenTrackSeconds * 1000, Receiver, [Number] { TellTrackEnded(Number); });
+    if (!Track || Mix_PlayMusic(Track, 1) != 0) TellTrackEnded(TrackNumber, BrokenTrackWait);
 }
 
 static void StartEffect(const std::string& File)
@@ -135,13 +143,14 @@ void StopSound()
 
 void MusicStop()
 {
-    ++TrackNumber;
     PlayWanted = false;
-    if (State != Device::Open) return;
-    Mix_HaltMusic();
-    if (Track) Mix_FreeMusic(Track);
-    Track = nullptr;
-    Silence->start();
+    if (Track) {
+        Mix_HaltMusic(); // tells the end of the track that it stops, also of one that has ended
+        Mix_FreeMusic(Track);
+        Track = nullptr;
+    }
+    ++TrackNumber;
+    if (State == Device::Open) Silence->start();
 }
 
 void MusicSetFile(const std::string& File)

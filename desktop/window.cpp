@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 #include "frame/files.h"
 #include "frame/frame.h"
+#include "media/media.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -353,6 +354,12 @@ void GameWindow::paintEvent(QPaintEvent* Event)
         Painter.setClipRect(Clip);
         PaintScreen(Painter, Shown, Clip);
     }
+}
+
+void DeliverTrackEnded()
+{
+    ActiveMP31_StateChange(3);
+    AfterEvent();
 }
 
 // --- the platform ---
