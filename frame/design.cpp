@@ -86,6 +86,9 @@ void SetDesignPlaces()
             SetInk(*E, ColumnShadow);
             SendToBack(*E);
         }
+    // The note's text stands on a plate and has no shadow: both elements are one text.
+    SetPlace(lblNote(1), lblNote(0).Left, lblNote(0).Top);
+    SetInk(lblNote(1), lblNote(0).Ink);
 }
 
 void SetDesignCaptions()

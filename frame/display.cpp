@@ -29,10 +29,10 @@ static float Half(int Twips)
     return static_cast<float>(std::nearbyint(Twips / 2.0));
 }
 
-void CentreScreen(const Element& Screen)
+void CentreScreen(const Element& Screen, int Width, int Height)
 {
-    SetPlace(Screen, Half(GameState.ScreenWidth * TwipsPerPixel - static_cast<int>(Screen.Width)),
-             Half(GameState.ScreenHeight * TwipsPerPixel - static_cast<int>(Screen.Height)));
+    SetPlace(Screen, Half(Width * TwipsPerPixel - static_cast<int>(Screen.Width)),
+             Half(Height * TwipsPerPixel - static_cast<int>(Screen.Height)));
 }
 
 void ShowWindowModeButton()
@@ -54,7 +54,7 @@ static void GoToWindow()
     DesktopMode();
     Platform.Yield();
     SetSize(frmMain, MainWidth, MainHeight);
-    CentreScreen(frmMain);
+    CentreScreen(frmMain, GameState.ScreenWidth, GameState.ScreenHeight);
     ShowTextNote(WindowHint);
     SaveSettings();
 }

@@ -22,7 +22,8 @@ void SetAllHandlers();
 
 void SetWindowMode(int Index);            // a click on imgWindowMode(Index)
 void ShowWindowModeButton();              // the one that leads to the other mode
-void CentreScreen(const Element& Screen); // in the middle of the desktop
+// In the middle of a desktop of so many pixels.
+void CentreScreen(const Element& Screen, int Width, int Height);
 void MainScreen_KeyDown(std::string_view Key, bool Shift, bool Ctrl, bool Alt);
 void MinimizeGame();
 void MainScreen_Resize(); // the desktop brings the minimised screen back

@@ -21,7 +21,7 @@ static void MinimizeOnClick(int)
 }
 static void CloseOnClick(int)
 {
-    Platform.MusicStop();
+    StopMusic();
     CloseGame();
 }
 

@@ -26,12 +26,10 @@ void SplashLoad()
     LoadDisplaySettings();
     if (GameState.DisplayMode == 0) Platform.ModeSet(FullWidth, FullHeight);
     Platform.Yield();
-    if (GameState.DisplayMode == 0) {
+    if (GameState.DisplayMode == 0)
         SetPlace(frmSplash, 0, 0);
-    } else {
-        SetPlace(frmSplash, (DesktopWidth * TwipsPerPixel - frmSplash.Width) / 2,
-                 (DesktopHeight * TwipsPerPixel - frmSplash.Height) / 2);
-    }
+    else
+        CentreScreen(frmSplash, DesktopWidth, DesktopHeight);
     Show(frmSplash);
     EnableTimer(tmrLogo);
     Platform.Yield();
@@ -116,7 +114,7 @@ static void EndTitle()
     if (GameState.DisplayMode == 0)
         SetPlace(frmMain, 0, 0);
     else
-        CentreScreen(frmMain);
+        CentreScreen(frmMain, GameState.ScreenWidth, GameState.ScreenHeight);
     Show(frmMain);
     Hide(frmSplash);
     Platform.Yield();

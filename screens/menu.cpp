@@ -73,7 +73,7 @@ static void imgExitNO_Action(int)
 }
 static void imgExitYES_Press(int)
 {
-    Platform.MusicStop();
+    StopMusic();
 }
 
 static void imgExitYES_Action(int)

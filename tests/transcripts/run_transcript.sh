@@ -15,9 +15,10 @@ console=$(realpath "$1") game=$(realpath "$2") transcript=$3
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir "$work/game"
-cp -rs "$game/DATA" "$work/game/DATA"
-[ ! -d "$game/PHOT" ] || cp -rs "$game/PHOT" "$work/game/PHOT"
+for folder in DATA PHOT; do
+    mkdir -p "$work/game/$folder"
+    [ ! -d "$game/$folder" ] || cp -rs "$game/$folder/." "$work/game/$folder"
+done
 
 # One file a run of the console: its shell commands, its commands, its answers with line numbers.
 awk -v work="$work" '
