@@ -79,6 +79,7 @@ static void BringUpWindow()
         Window->setGeometry(Window->screen()->geometry());
         Window->showFullScreen();
     } else {
+        Window->setWindowState(Qt::WindowNoState); // a new size alone leaves Wayland in full screen
         Window->setWindowFlag(Qt::FramelessWindowHint, Screen == &frmSplash);
         Window->setFixedSize(static_cast<int>(Screen->Width) / TwipsPerPixel,
                              static_cast<int>(Screen->Height) / TwipsPerPixel);
@@ -313,8 +314,11 @@ void GameWindow::closeEvent(QCloseEvent* Event)
 
 void GameWindow::changeEvent(QEvent* Event)
 {
-    if (Event->type() != QEvent::WindowStateChange || !Minimised) return;
-    if (windowState().testFlag(Qt::WindowMinimized)) return;
+    if (!Minimised) return;
+    // Wayland does not tell that a window is minimised: it is back when it is active again.
+    static const bool Wayland = QGuiApplication::platformName().startsWith("wayland");
+    if (Event->type() != (Wayland ? QEvent::ActivationChange : QEvent::WindowStateChange)) return;
+    if (Wayland ? !isActiveWindow() : isMinimized()) return;
     Minimised = false;
     ScreenOnShow = nullptr; // the window is to be brought up as it now should be
     MainScreen_Resize();
