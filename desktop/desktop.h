@@ -35,7 +35,8 @@ struct Pixels {
     QRect Part;
 };
 Pixels FindPixels(const Picture& P, double Scale);
-void ForgetPixels(); // of another scale
+void ForgetForm(const Element& E); // the picture of its design, when it is shown no more
+void ForgetPixels();               // of another scale
 
 // --- sound.cpp: music and effects ---
 

@@ -64,8 +64,7 @@ static void CutSheet(int Sheet)
     for (const auto& [Name, Row] : FormIndex) {
         if (Row.Sheet != Sheet) continue;
         const QRect& Two = Row.Part;
-        const QRect Part =
-            DesignSize ? QRect(Two.topLeft() / 2, Two.size() / 2) : Two;
+        const QRect Part = DesignSize ? QRect(Two.topLeft() / 2, Two.size() / 2) : Two;
         const int Width = qRound(Two.width() * KnownScale / FormScale);
         const int Height = qRound(Two.height() * KnownScale / FormScale);
         Forms[Name] = Scaled(Whole.copy(Part), std::max(Width, 1), std::max(Height, 1));
@@ -146,6 +145,11 @@ static Pixels FindFile(const Picture& P, double Scale)
                     .first;
     }
     return {&Found->second, Found->second.rect()};
+}
+
+void ForgetForm(const Element& E)
+{
+    Forms.erase(ElementText(E));
 }
 
 void ForgetPixels()

@@ -71,6 +71,10 @@ static void BringUpWindow()
     const Element* Screen = VisibleScreen();
     if (!Screen || Minimised || Ended) return;
     if (Screen == ScreenOnShow && FullScreen == ShownFullScreen && Window->isVisible()) return;
+    if (Screen == &frmMain) {
+        ForgetForm(imgLogo);
+        ForgetForm(imgTitle);
+    }
     ScreenOnShow = Screen;
     ShownFullScreen = FullScreen;
     if (FullScreen) {

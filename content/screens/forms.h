@@ -10,7 +10,9 @@
 enum Sheet {
     MainSheet = 1,
     MenuSheet,
-    BoxSheet,
+    ExitSheet,
+    EndSheet,
+    NoMovesSheet,
     WonSheet,
     SplashSheet,
     StockSheet, // option balls and group buttons, on several screens

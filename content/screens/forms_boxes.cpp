@@ -78,16 +78,18 @@ static void DrawNewHigh(QPainter& P, const QRectF& Box)
 
 struct QuestionRow {
     const char* Panel;
+    Sheet On;
     Sign Drawn;
     const char* Title;
     const char* Text;
 };
 static const QuestionRow Questions[] = {
-    {"picExit", Sign::Exit, "Leave Pagodas?", "A game under way counts as given up."},
-    {"picEnd", Sign::End, "End this game?", "It counts as given up and\nenters no score table."},
-    {"picNoMoves", Sign::Sleep, "No moves left",
+    {"picExit", ExitSheet, Sign::Exit, "Leave Pagodas?", "A game under way counts as given up."},
+    {"picEnd", EndSheet, Sign::End, "End this game?",
+     "It counts as given up and\nenters no score table."},
+    {"picNoMoves", NoMovesSheet, Sign::Sleep, "No moves left",
      "Nothing more can be played here.\nThe game is lost."},
-    {"picNoMovesMix", Sign::Mix, "No moves left",
+    {"picNoMovesMix", NoMovesSheet, Sign::Mix, "No moves left",
      "No pair is free. MIX stirs the tiles,\nEND gives the game up."},
 };
 
@@ -95,7 +97,7 @@ void AddBoxes(FormPictures& To)
 {
     AddForm(To, "picMenu", MenuSheet, DrawMenu);
     for (const QuestionRow& Row : Questions)
-        AddForm(To, Row.Panel, BoxSheet, [&](QPainter& P, const QRectF& Box) {
+        AddForm(To, Row.Panel, Row.On, [&](QPainter& P, const QRectF& Box) {
             DrawQuestion(P, Box, Row.Panel, Row.Drawn, Row.Title, Row.Text);
         });
     AddForm(To, "picGameWon", WonSheet, DrawWonPanel);
