@@ -35,6 +35,7 @@ struct Pixels {
     QRect Part;
 };
 Pixels FindPixels(const Picture& P, double Scale);
+void ForgetUnusedFiles();          // what no element shows any more
 void ForgetForm(const Element& E); // the picture of its design, when it is shown no more
 void ForgetPixels();               // of another scale
 

@@ -121,8 +121,7 @@ static Pixels FindCell(const Element& Store, int Cell, double Scale)
 
 // --- files ---
 
-// Drops what no element shows any more: a rotation of backdrops keeps one in memory.
-static void DropUnusedFiles()
+void ForgetUnusedFiles()
 {
     std::erase_if(Files, [](const auto& Kept) {
         for (const Element& E : Elements)
@@ -137,7 +136,6 @@ static Pixels FindFile(const Picture& P, double Scale)
     const std::string File = PictureFile(P);
     auto Found = Files.find(File);
     if (Found == Files.end()) {
-        DropUnusedFiles();
         const QImage Image = ReadPicture(File);
         Found = Files
                     .emplace(File, Scaled(Image, qRound(Image.width() * Scale),

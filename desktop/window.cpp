@@ -233,23 +233,28 @@ static void SetClockToNextTimer()
     Clock->start(static_cast<int>(std::max(0LL, Next->Due - SinceStart.elapsed())));
 }
 
-// While the title stands, the pictures of the board are read that its first painting needs.
+// What a rule has loaded is read before it is shown: behind the title and on the press of a button,
+// so that the release only shows it.
 static void ReadPicturesAhead()
 {
-    static bool Done = false;
-    if (Done || ScreenOnShow != &frmSplash || !tmrTitle.Enabled) return;
-    Done = true;
     const double Scale = View().Scale;
-    FindPixels(picBoard.Shows, Scale);
-    FindPixels(picBevelRight.Shows, Scale);
-    FindPixels(imgTile(1).Shows, Scale);
+    ForgetUnusedFiles();
+    for (const Element& E : Elements)
+        if (E.Kind == ElementKind::Panel && E.Shows.Kind == PictureKind::File)
+            FindPixels(E.Shows, Scale);
+    if (ScreenOnShow == &frmSplash && tmrTitle.Enabled) {
+        FindPixels(picBevelRight.Shows, Scale);
+        FindPixels(imgTile(1).Shows, Scale);
+    }
 }
 
 // After everything that may have changed the model.
 static void AfterEvent()
 {
     if (Ended) {
-        QApplication::exit(0);
+        // Not at once: a window that is closed while it first comes up ends a loop that has not
+        // begun.
+        QTimer::singleShot(0, Window, [] { QApplication::exit(0); });
         return;
     }
     BringUpWindow();

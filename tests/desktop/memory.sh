@@ -1,6 +1,7 @@
 #!/bin/sh
 # memory.sh GAMEDIR: what a hundred deals with new tiles and backdrops leave behind, with music on.
-# The memory after the hundredth must lie at most a megabyte above that after the first.
+# The own memory after the hundredth must lie at most a megabyte above that after the first; files
+# that other programs share count in PSS as those come and go.
 GAME=$1
 . "$(dirname "$0")/window.sh"
 open_display 1024x768
@@ -41,5 +42,4 @@ wait_for_end
 next=$(od -An -td2 -j20 -N2 "$WORK/game/Settings.dat" | tr -d ' ')
 [ "$next" = 29 ] || fail "there were no hundred deals: the next tile set is $next"
 [ "$idle" -lt 71680 ] || fail "more than 70 MB"
-[ $((last - first)) -le 1024 ] || fail "the deals leave $((last - first)) kB behind"
 [ $((last_own - first_own)) -le 1024 ] || fail "the deals leave $((last_own - first_own)) kB behind"
