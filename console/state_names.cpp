@@ -325,6 +325,13 @@ static void RegisterAll()
     VALUE(AllSuggestions);
 #undef VALUE
     Register("RandomGroupMarks", S.RandomBlockChosen); // the chooser's word for the same array
+    StateVariable& Index = Variables["LayoutIndex"];
+    Index.Get = [](int, const std::string& Field) {
+        return Field.empty() ? std::to_string(LayoutIndex()) : NoField;
+    };
+    Index.Set = [](int, const std::string&, const Argument&) {
+        return std::string("error: LayoutIndex is worked out and cannot be set");
+    };
     Register("GraphColour", GraphColour); // what the profile has drawn, by layout and place
 }
 
