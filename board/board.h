@@ -79,6 +79,7 @@ void PeekStep(int Tile);
 void PairStep(int Tile);
 void PushStep(int Tile);
 void TakeMarksAway(); // the marks of PAIR
+void DropSelection(); // the hinted pair and the selected tile go back to normal
 
 // --- mix.cpp: MIX and the dead end ---
 

@@ -37,10 +37,7 @@ void MixTiles()
     --GameState.MixCount;
     RefreshLights();
     for (int I = 1; I <= GameState.PairMarked(0); ++I) SetTileState(GameState.PairMarked(I), 0);
-    SetTileState(GameState.OpenPairA(GameState.HintCursor), 0);
-    SetTileState(GameState.OpenPairB(GameState.HintCursor), 0);
-    SetTileState(GameState.SelectedTile, 0);
-    GameState.TileSelected = 0;
+    DropSelection();
 
     // One pass with one forced partner for each place: deliberately not a uniform shuffle, and
     // without a promise of a free pair.

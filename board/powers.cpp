@@ -7,6 +7,13 @@ static void SetHintedPairNormal()
     SetTileState(GameState.OpenPairB(GameState.HintCursor), 0);
 }
 
+void DropSelection()
+{
+    SetHintedPairNormal();
+    SetTileState(GameState.SelectedTile, 0);
+    GameState.TileSelected = 0;
+}
+
 void TakeMarksAway()
 {
     for (int Tile = 1; Tile <= TileCount; ++Tile)
@@ -80,9 +87,7 @@ void imgPair_Action(int)
 
 void PairStep(int Tile)
 {
-    SetHintedPairNormal();
-    SetTileState(GameState.SelectedTile, 0);
-    GameState.TileSelected = 0;
+    DropSelection();
     --GameState.PairCount;
     RefreshLights();
     GameState.PairMark = TileFace(Tile);

@@ -143,6 +143,38 @@ TEST(NoMoves, StopsAndRestartsTheClockOfAgility)
     EXPECT_TRUE(tmrAgility.Enabled);
 }
 
+TEST(NoMoves, AMixDuringAPauseStopsItAndTheBoxLetsItGoOn)
+{
+    StandTiles({{.Face = 5, .X = 1, .Z = 1}, {.Face = 5, .X = 1, .Z = 2}}, Agility);
+    SetClock(1);
+    imgPause_Action(0);
+    tmrPause_Tick(0);
+    MixTiles();
+    EXPECT_TRUE(picNoMovesMix.Visible);
+    EXPECT_FALSE(tmrPause.Enabled);
+    EXPECT_TRUE(imgPauseBar.Visible);
+    EXPECT_EQ(Asked.back(), "\\DATA\\FX0001");
+    imgNoMovesMixOK_Action(0);
+    EXPECT_TRUE(tmrPause.Enabled);
+    EXPECT_FALSE(tmrAgility.Enabled);
+    EXPECT_EQ(GameState.PauseTicks, 9);
+}
+
+TEST(NoMoves, TheLastMixSpentInADeadEndLosesAtOnce)
+{
+    UseOwnFolder();
+    StandTiles({{.Face = 5, .X = 1, .Z = 1}, {.Face = 5, .X = 1, .Z = 2}}, Agility);
+    SetClock(1);
+    GameState.MixCount = 1;
+    MixTiles();
+    EXPECT_FALSE(picNoMovesMix.Visible);
+    EXPECT_TRUE(picNoMoves.Visible);
+    EXPECT_EQ(GameState.GameRunning, 0);
+    EXPECT_FALSE(tmrAgility.Enabled) << "stopped while the game still ran";
+    EXPECT_TRUE(imgEndDIS.Visible);
+    EXPECT_FALSE(imgbutStartDIS.Visible);
+}
+
 TEST(ShowClock, BlanksLeadingDigits)
 {
     const auto Cells = [](int Time) {

@@ -78,6 +78,69 @@ TEST(RefreshPanel, CoversByCountAndByRunningGame)
     EXPECT_EQ(PictureName(imgWisdomGreen(3).Shows), "imgGreenLight(0)");
 }
 
+// A power: its counter, the cover of its button and the first of its two lamps.
+struct PanelPower {
+    int GameType;
+    I16 GameStateRecord::*Count;
+    const Element& Cover;
+    const ElementArray& Lamps;
+    int Lamp;
+};
+static const PanelPower PanelPowers[] = {
+    {Finesse, &GameStateRecord::MixCount, imgMixFinesseDIS, imgFinesseGreen, 0},
+    {Finesse, &GameStateRecord::UndoCount, imgUndoDIS, imgFinesseGreen, 2},
+    {Finesse, &GameStateRecord::PairCount, imgPairDIS, imgFinesseGreen, 4},
+    {Finesse, &GameStateRecord::PeekCount, imgPeekDIS, imgFinesseGreen, 6},
+    {Agility, &GameStateRecord::MixCount, imgMixAgilityDIS, imgAgilityGreen, 0},
+    {Agility, &GameStateRecord::PauseCount, imgPauseDIS, imgAgilityGreen, 2},
+    {Wisdom, &GameStateRecord::MixCount, imgMixWisdomDIS, imgWisdomGreen, 0},
+    {Wisdom, &GameStateRecord::PushCount, imgPushDIS, imgWisdomGreen, 2},
+};
+
+TEST(Panel, EveryCoverAndLampByTypeAndCount)
+{
+    for (const PanelPower& Power : PanelPowers)
+        for (int Count = 0; Count <= 2; ++Count) {
+            StandTiles({}, Power.GameType);
+            GameState.*Power.Count = Count;
+            RefreshLights();
+            // In Finesse the lamps go first and the cover comes with the next refresh.
+            EXPECT_EQ(Power.Cover.Visible, Count == 0 && Power.GameType != Finesse)
+                << Power.Cover.Name;
+            RefreshPanel();
+            EXPECT_EQ(Power.Cover.Visible, Count == 0) << Power.Cover.Name;
+            EXPECT_EQ(Power.Lamps(Power.Lamp).Visible, Count >= 1) << Power.Cover.Name;
+            EXPECT_EQ(Power.Lamps(Power.Lamp + 1).Visible, Count == 2) << Power.Cover.Name;
+            for (const PanelPower& Other : PanelPowers)
+                if (Other.GameType == Power.GameType && Other.Count != Power.Count) {
+                    EXPECT_FALSE(Other.Cover.Visible) << Other.Cover.Name;
+                    EXPECT_TRUE(Other.Lamps(Other.Lamp + 1).Visible) << Other.Cover.Name;
+                }
+            GameState.GameRunning = 0;
+            RefreshPanel();
+            EXPECT_TRUE(Power.Cover.Visible) << Power.Cover.Name;
+        }
+}
+
+TEST(Panel, TheLampsOfAllTypesFollowTheRunningGame)
+{
+    StandTiles({}, Agility);
+    for (int Running : {1, 0}) {
+        GameState.GameRunning = Running;
+        RefreshPanel();
+        const std::string Light = Running ? "imgGreenLight(1)" : "imgGreenLight(0)";
+        for (const ElementArray* Lamps : {&imgFinesseGreen, &imgAgilityGreen, &imgWisdomGreen})
+            for (int Lamp = 0; Lamp < Lamps->Count; ++Lamp)
+                EXPECT_EQ(PictureName((*Lamps)(Lamp).Shows), Light);
+    }
+    GameState.GameRunning = 1;
+    RefreshPanel();
+    DisablePanel(0);
+    EXPECT_EQ(PictureName(imgAgilityGreen(0).Shows), "imgGreenLight(0)");
+    for (const PanelPower& Power : PanelPowers)
+        EXPECT_TRUE(Power.Cover.Visible) << Power.Cover.Name;
+}
+
 TEST(RefreshPanel, WisdomCoversItsWordButtonsWithoutAGame)
 {
     StandTiles({}, Wisdom);
