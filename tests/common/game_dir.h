@@ -31,7 +31,7 @@ inline void BootGame()
     InitElements();
     SetAllHandlers();
     SplashLoad();
-    for (Time = 0; Time <= 6000; Time += 100) RunDueTimers(Time);
+    for (int Step = 0; Step <= 60; ++Step) RunDueTimers(Time += 100);
 }
 
 // A press at the middle of an element: whatever lies on top there takes it.
