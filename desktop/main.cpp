@@ -8,12 +8,25 @@
 
 constexpr int PictureBytes = 256 * 1024; // what is larger is a picture
 
+// What the desktop puts over the game - help balloons, the box of a fatal error - in the colours of
+// the screens.
+constexpr const char* OverTheGame =
+    "QToolTip { color: #2a2018; background: #f3e4bd; border: 1px solid #8a6420; padding: 3px 2px;"
+    "  font: 14px \"DejaVu Sans\"; }"
+    "QMessageBox { background: #1a4032; }"
+    "QMessageBox QLabel { color: #fff6dc; font: 15px \"DejaVu Sans\"; }"
+    "QMessageBox QPushButton { color: #173124; background: #f6eedb; border: 1px solid #5b4a28;"
+    "  border-bottom: 4px solid #3f8f63; border-left: 4px solid #3f8f63; border-radius: 4px;"
+    "  min-width: 96px; padding: 6px 10px; font: bold 14px \"DejaVu Sans\"; }"
+    "QMessageBox QPushButton:pressed { background: #f7cf57; }";
+
 int main(int Count, char** Arguments)
 {
     // A picture that is dropped goes back to the system at once and leaves no hole.
     mallopt(M_MMAP_THRESHOLD, PictureBytes);
     QApplication Application(Count, Arguments);
     QApplication::setApplicationName("Pagodas");
+    Application.setStyleSheet(OverTheGame);
     GameDirectory = QApplication::applicationDirPath().toStdString();
     FillPlatform();
     InitElements();

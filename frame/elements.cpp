@@ -63,7 +63,8 @@ constexpr Look Grid(int Columns, int Rows)
 }
 } // namespace looks
 
-constexpr Colour ShadowInk = {12, 16, 12};
+// Light text throws a dark shadow; dark text, as on the notes, is pressed in and shows a light rim.
+constexpr Colour ShadowInk = {12, 16, 12}, RimInk = {255, 248, 224};
 
 // A row of the table of the screens.
 struct ElementRow {
@@ -162,7 +163,7 @@ static void MakeElement(const ElementRow& Row, int Place)
     if (Row.Style.Art) E.Shows = FormPicture(E);
     if (Row.Style.Pair && Place == 1) {
         E.Top += 1;
-        E.Ink = ShadowInk;
+        E.Ink = E.Ink.Red < 128 ? RimInk : ShadowInk;
     }
 }
 

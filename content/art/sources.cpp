@@ -16,7 +16,7 @@
 void FatalError(const QString& Text)
 {
     std::fprintf(stderr, "%s\n", qPrintable(Text));
-    std::exit(1);
+    std::_Exit(1); // a painter may be at work: nothing is torn down under it
 }
 
 static QString FontPath(FontFile Which)

@@ -4,7 +4,7 @@
 #include "forms.h"
 
 static const QColor Heading("#f0cf78");
-static const QColor Celadon("#5c7e6a"); // black and yellow rows both stand out on it
+static const QColor Celadon("#498168"); // black and yellow rows both stand out on it
 
 static QRectF Grown(const QRectF& Box, double X, double Y)
 {
@@ -21,12 +21,14 @@ static void DrawHeading(QPainter& P, const QRectF& Box, const QString& Text,
 
 static void DrawEmblemTitle(QPainter& P, const QRectF& Box, const QString& Text, double Size)
 {
-    const QRectF Mark(Box.x(), Box.center().y() - 20, 38, 38);
-    const QPainterPath Pagoda = Fitted(PagodaPath(3), Mark);
-    P.fillPath(Pagoda.translated(-1, 1.4), Alpha("#04100a", .8));
-    P.fillPath(Pagoda, Linear(Mark.right(), Mark.top(), Mark.left(), Mark.bottom(),
-                              {"#fff3bf", "#e9c25a", "#b88220"}));
+    DrawEmblem(P, QRectF(Box.x(), Box.center().y() - 20, 38, 38));
     DrawTitle(P, Box.adjusted(52, 0, 0, 0), Text, Size, Qt::AlignLeft);
+}
+
+static void DrawQuiet(QPainter& P, const QRectF& Box, const QString& Text,
+                      Qt::Alignment Place = Qt::AlignLeft | Qt::AlignVCenter)
+{
+    DrawParagraph(P, Box, Text, {.Size = 13, .Colour = QColor(QuietText), .Place = Place}, 1.35);
 }
 
 // The ground that all have in common: jade with a gold frame, and a hollow for every button.
@@ -52,6 +54,27 @@ static void DrawSheetFrame(QPainter& P, const QRectF& Box)
     DrawGoldLine(P, Rounded(Box.x() - 3, Box.y() - 3, Box.width() + 6, Box.height() + 6, 2), 1.6);
 }
 
+static void DrawSmallLandscape(QPainter& P, const QRectF& Box)
+{
+    const auto At = [&](double X, double Y) {
+        return QPointF(Box.x() + X * Box.width(), Box.y() + Y * Box.height());
+    };
+    P.save();
+    P.setClipRect(Box);
+    P.fillRect(Box, Linear(0, Box.top(), 0, Box.bottom(), {"#2c6a70", "#e8a85a", "#f8dca0"}));
+    P.fillPath(Circle(At(.68, .4).x(), At(.68, .4).y(), 8), QColor("#fff4cc"));
+    P.fillPath(ClosedCurve({At(-.1, 1.2), At(-.1, .7), At(.2, .42), At(.5, .74), At(.8, .6),
+                            At(1.1, .78), At(1.1, 1.2)}),
+               QColor("#4a7f6c"));
+    P.fillPath(Moved(PagodaPath(3), At(.14, 0).x(), At(0, .28).y(), 0, .26, .32),
+               QColor("#173a2d"));
+    P.fillPath(ClosedCurve({At(-.1, 1.2), At(-.1, .9), At(.3, .84), At(.7, .96), At(1.1, .86),
+                            At(1.1, 1.2)}),
+               QColor("#12301f"));
+    P.restore();
+    DrawGoldLine(P, Rounded(Box.x(), Box.y(), Box.width(), Box.height(), 2), 1.8);
+}
+
 static void DrawOptions(QPainter& P)
 {
     DrawGround(P, "picOptions");
@@ -67,34 +90,23 @@ static void DrawOptions(QPainter& P)
     const QRectF Desc = BoxOf("imgGameDesc(0)");
     P.strokePath(Rounded(Desc.x(), Desc.y(), Desc.width(), Desc.height(), 4),
                  Line(Alpha(Gold, .35), .8));
-    DrawParagraph(P, Grown(Desc, -16, -16),
-                  "Choose a game: its description shows here. A running game must end first.",
-                  {.Size = 13, .Colour = QColor(QuietText), .Place = Qt::AlignCenter});
+    DrawQuiet(P, Grown(Desc, -16, -16),
+              "Choose a game: its description shows here. A running game must end first.",
+              Qt::AlignCenter);
     Band(174, 342);
-    Band(346, 574);
+    Band(350, 578);
+    Band(586, 642);
     DrawSheetFrame(P, BoxOf("lblOptionsTileSet"));
     DrawSheetFrame(P, BoxOf("imgTileSetSample"));
-    for (const char* Name : {"lblTileSet", "lblBackDrop"}) {
-        const QRectF Label = BoxOf(Name);
-        DrawPlate(P, QRectF(Label.x() - 10, Label.y() - 3, Label.width() + 6, Label.height() + 6));
-        DrawHeading(P, QRectF(44, Label.y(), 100, Label.height()),
-                    QString(Name) == "lblTileSet" ? "Tile set" : "Backdrop");
-    }
-    const SignInk Ivory{.Main = QColor("#d8cda6"),
-                        .Accent = QColor("#e08a5a"),
-                        .Gold = QColor("#e8bd4e"),
-                        .Ground = QColor("#14301f")};
-    DrawSign(P, Sign::Pair, QRectF(62, 240, 62, 62), Ivory);
-    const QRectF Picture(60, 440, 66, 50);
-    P.fillRect(Picture, Linear(0, Picture.top(), 0, Picture.bottom(), {"#f0b25a", "#f4dca0"}));
-    P.fillPath(Circle(106, 456, 7), QColor("#fff6d8"));
-    P.fillPath(
-        Polygon({{60, 490}, {60, 474}, {80, 458}, {98, 478}, {110, 468}, {126, 482}, {126, 490}}),
-        QColor("#24564a"));
-    DrawGoldLine(P, Rounded(Picture.x(), Picture.y(), Picture.width(), Picture.height(), 2), 1.6);
-
-    Band(590, 646);
-    DrawPlate(P, BoxOf("lblOptionsNote").adjusted(-10, -5, 0, 5));
+    // Names stand on the stone itself: in Wisdom there is none, and a plate would stand empty.
+    const std::pair<const char*, const char*> Names[] = {{"lblTileSet", "Tile set"},
+                                                         {"lblBackDrop", "Backdrop"}};
+    for (const auto& [Label, Text] : Names)
+        DrawHeading(P, QRectF(44, BoxOf(Label).y(), 104, BoxOf(Label).height()), Text);
+    for (const int Layer : {1, 2})
+        DrawEmblemTile(P, QRectF(57 + 8 * Layer, 252 - 8 * Layer, 60, 60), 3);
+    DrawSmallLandscape(P, QRectF(60, 448, 66, 50));
+    DrawQuiet(P, QRectF(690, 586, 290, 56), "Music changes at once,\nall else with Accept.");
 }
 
 static void DrawChooser(QPainter& P)
@@ -106,10 +118,34 @@ static void DrawChooser(QPainter& P)
     DrawTitle(P, QRectF(456, 20, 196, 44), "Layouts", 28);
     const QRectF Field = BoxOf("picThumbs");
     DrawInset(P, QRectF(Field.x() - 8, Field.y() - 2, Field.width() + 16, Field.height() + 6), 6);
+    DrawQuiet(P, QRectF(Field.x(), 726, Field.width(), 20),
+              "Under each layout: games completed, and the share that was won", Qt::AlignCenter);
 }
 
 static const char* const ScoreHeads[] = {"lblScrRank",  "Place", "lblScrName", "Name",
                                          "lblScrScore", "Score", "lblScrDay",  "Date"};
+
+// Gold, silver and bronze before the first three places.
+static void DrawMedal(QPainter& P, QPointF M, int Place)
+{
+    static const QColor Metals[3][3] = {{"#fff3b8", "#e0a92c", "#7a5208"},
+                                        {"#ffffff", "#b9c2c4", "#5d686c"},
+                                        {"#ffd9b0", "#c47a3c", "#6a3612"}};
+    const auto& [Shine, Metal, Rim] = Metals[Place - 1];
+    for (const double Side : {-1.0, 1.0})
+        P.fillPath(Polygon({{M.x() + Side * 1, M.y()},
+                            {M.x() + Side * 7.5, M.y() + 3},
+                            {M.x() + Side * 6.5, M.y() + 14},
+                            {M.x() + Side * 3.8, M.y() + 11.5},
+                            {M.x() + Side * 1, M.y() + 13}}),
+                   QColor(Side < 0 ? "#8f1d14" : SignRed));
+    P.fillPath(Circle(M.x() - .6, M.y() - 1.2, 9.2), Alpha("#000000", .4));
+    P.fillPath(Circle(M.x(), M.y() - 2, 9),
+               Linear(M.x() + 7, M.y() - 9, M.x() - 7, M.y() + 5, {Shine, Metal, Rim}));
+    P.fillPath(Circle(M.x(), M.y() - 2, 6.6),
+               Linear(M.x() + 5, M.y() - 7, M.x() - 5, M.y() + 4, {Metal, Shine, Metal}));
+    P.fillPath(Star(M.x(), M.y() - 2, 4.6), Rim);
+}
 
 static void DrawScores(QPainter& P)
 {
@@ -124,11 +160,12 @@ static void DrawScores(QPainter& P)
     DrawPlate(P, Set.adjusted(8, -3, -2, 3));
 
     const QRectF Table(332, 234, 662, 436);
-    P.fillRect(Table, Celadon);
-    FillJade(P, Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6),
-             Light(Celadon, .02), Dark(Celadon, .02));
-    P.fillRect(Table, Alpha(Celadon, .9)); // calm the stone under the rows
+    const QPainterPath Slab = Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6);
+    FillJade(P, Slab, Celadon, Celadon);
+    P.fillPath(Slab, Alpha(Celadon, .92)); // calm the stone under the rows
     P.fillPath(Rounded(Table.x(), Table.y(), Table.width(), 24, 4), QColor("#10291d"));
+    for (int Place = 1; Place <= 3; ++Place)
+        DrawMedal(P, QPointF(354, BoxOf(QString("lblScrRank(%1)").arg(Place)).center().y()), Place);
     for (int I = 0; I < 8; I += 2) {
         QRectF Column = BoxOf(QString(ScoreHeads[I]) + "(1)");
         const bool Right = QString(ScoreHeads[I]) == "lblScrScore" || I == 0;
@@ -140,10 +177,11 @@ static void DrawScores(QPainter& P)
                   .Colour = Heading,
                   .Place = (Right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter});
     }
-    for (int I = 2; I <= 10; ++I)
-        P.fillRect(QRectF(Table.x() + 12, BoxOf(QString("lblScrRank(%1)").arg(I)).y() - 8,
-                          Table.width() - 24, 1),
-                   Alpha("#16301f", .35));
+    for (int I = 2; I <= 10; ++I) { // cut lines: dark above, light below
+        const double Y = BoxOf(QString("lblScrRank(%1)").arg(I)).y() - 8;
+        P.fillRect(QRectF(Table.x() + 12, Y, Table.width() - 24, 1), Alpha("#0c2418", .5));
+        P.fillRect(QRectF(Table.x() + 12, Y + 1, Table.width() - 24, 1), Alpha("#d8f0de", .22));
+    }
     DrawGoldLine(P, Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6), 1.6);
 }
 
@@ -192,6 +230,12 @@ static const char* const StatisticNames[] = {
     "Lowest score",     "Closest rival",
 };
 
+struct SizeRow {
+    int First; // layout
+    const char* Tiles;
+};
+static const SizeRow SizeRows[] = {{1, "72 tiles"}, {13, "144"}, {73, "216"}, {109, "288"}};
+
 static void DrawProfile(QPainter& P)
 {
     DrawGround(P, "picProfile");
@@ -205,6 +249,13 @@ static void DrawProfile(QPainter& P)
     P.fillRect(Graph, PlayerInk(0));
     DrawGoldLine(P, Rounded(Graph.x() - 2, Graph.y() - 2, Graph.width() + 4, Graph.height() + 4, 2),
                  1.6);
+    for (const SizeRow& Size : SizeRows) { // below the first column of each size
+        const double X = Graph.x() + 6 * (Size.First - 1);
+        P.fillRect(QRectF(X, Graph.bottom() + 2, 1, 9), Alpha(Gold, .9));
+        DrawText(P, QRectF(X + 5, Graph.bottom() + 6, 68, 20), Size.Tiles,
+                 {.Size = 13, .Colour = QColor(QuietText), .Place = Qt::AlignLeft});
+    }
+    DrawQuiet(P, QRectF(780, Graph.bottom() + 6, 210, 20), "Point at a block to read it");
 
     DrawInset(P, QRectF(30, 294, 336, 388), 6);
     DrawInset(P, QRectF(374, 294, 620, 388), 6);
@@ -212,10 +263,11 @@ static void DrawProfile(QPainter& P)
         const QRectF Box = BoxOf(QString("cboPlayerList(%1)").arg(I));
         const QRectF Swatch(Box.x() - 30, Box.y() + 5, 18, 18);
         P.fillRect(Swatch, PlayerInk(I));
+        P.fillPath(Polygon({Swatch.topLeft(), Swatch.topRight(), Swatch.bottomRight()}),
+                   Alpha("#ffffff", .16));
         P.strokePath(Rounded(Swatch.x(), Swatch.y(), 18, 18, 2), Line(Alpha("#04100a", .9), 1.4));
         P.strokePath(Rounded(Swatch.x() - 1, Swatch.y() - 1, 20, 20, 2), Line(Alpha(Gold, .8), 1));
-        const QRectF Score = BoxOf(QString("lblProScore(%1)").arg(I));
-        DrawPlate(P, QRectF(Score.x() + 6, Score.y() - 2, Score.width() - 1, 26), 3);
+        if (I < 10) P.fillRect(QRectF(42, Box.bottom() + 3.5, 312, 1), Alpha(Gold, .16));
     }
     const QRectF A = BoxOf("cboPlayerList(11)");
     DrawHeading(P, QRectF(390, A.y(), A.x() - 402, A.height()), "Two players compared");
@@ -241,13 +293,19 @@ void WriteBackgrounds(const QString& Folder)
         {"EN0001", DrawOptions}, {"EN0002", DrawHistory}, {"EN0003", DrawScores},
         {"EN0004", DrawProfile}, {"EN0005", DrawChooser},
     };
-    for (const auto& [Name, Draw] : Screens) {
-        QImage Image(1024, 768, QImage::Format_RGB32);
+    for (const auto& [Name, Draw] : Screens) WriteFullScreen(Folder + "/DATA/" + Name, Draw);
+}
+
+void WriteFullScreen(const QString& File, const std::function<void(QPainter&)>& Draw)
+{
+    for (const int Scale : {1, Sharpness}) {
+        QImage Image(1024 * Scale, 768 * Scale, QImage::Format_RGB32);
         Image.fill(Qt::black);
         QPainter P(&Image);
         P.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        P.scale(Scale, Scale);
         Draw(P);
         P.end();
-        SavePng(Image, Folder + "/DATA/" + Name);
+        SavePng(Image, Scale == 1 ? File : File + "@2");
     }
 }

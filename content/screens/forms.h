@@ -45,12 +45,20 @@ void AddBoxes(FormPictures& To);                                // forms_boxes.c
 void AddButtons(FormPictures& To); // forms_buttons.cpp: every button of every screen
 void AddScreens(FormPictures& To); // forms_screens.cpp: other pictures of the full-size screens
 void AddSplash(FormPictures& To);  // forms_splash.cpp: logo and title
+void DrawTitleScene(QPainter& P, const QRectF& Box); // title.cpp: what stands on the title
 
 // sheets.cpp: packs the pictures and writes DATA/FM0000 and the sheets below Folder.
 void WriteSheets(const FormPictures& Pictures, const QString& Folder);
 
-// backgrounds.cpp, help_pages.cpp, app_icon.cpp
+// A tile with the emblem of the game; Tiers is the number of its roofs. forms_splash.cpp
+void DrawEmblemTile(QPainter& P, const QRectF& Box, int Tiers);
+
+// Writes a picture of 1024 by 768, and beside it File@2 of twice the size for finer displays.
+void WriteFullScreen(const QString& File, const std::function<void(QPainter&)>& Draw);
+
+// backgrounds.cpp, help_pages.cpp, forms_splash.cpp
 void WriteBackgrounds(const QString& Folder); // DATA/EN0001 .. EN0005
-// DATA/HP0001 .. HP0005; the tiles on them are read from GameFolder, where their maker put them.
+// DATA/HP0001 .. HP0005; tiles and boards on them are read from GameFolder, where their makers put
+// them.
 void WriteHelpPages(const QString& Folder, const QString& GameFolder);
 void WriteIcons(const QString& Folder); // ICON/16.png .. ICON/512.png

@@ -2,6 +2,8 @@
 
 #include "forms.h"
 
+#include <cmath>
+
 static QRectF Grown(const QRectF& Box, double By)
 {
     return Box.adjusted(-By, -By, By, By);
@@ -21,6 +23,23 @@ static void DrawNotes(QPainter& P, double X, double Y) // two quavers
         P.fillRect(QRectF(X + Dx + 2.6, Y, 1.6, 16), Gold1);
     }
     P.fillPath(Polygon({{X + 2.6, Y}, {X + 15.2, Y}, {X + 15.2, Y + 4}, {X + 2.6, Y + 4}}), Gold1);
+}
+
+// Two branches of laurel that meet below the score, faint enough to lie behind it.
+static void DrawLaurel(QPainter& P, const QRectF& Box)
+{
+    QPainterPath Leaves;
+    for (int I = 0; I < 7; ++I) {
+        const double Turn = (96 + 24.0 * I) * 3.14159265 / 180, Size = 9.5 - I * .5;
+        const QPointF At(Box.center().x() + Box.width() / 2 * std::cos(Turn),
+                         Box.center().y() + Box.height() / 2 * std::sin(Turn));
+        for (const double Side : {-38.0, 38.0})
+            Leaves.addPath(Moved(Ellipse(Size * .7, 0, Size * .75, Size * .27), At.x(), At.y(),
+                                 Turn * 180 / 3.14159265 + 90 + Side));
+    }
+    Leaves.addPath(Mirrored(Leaves, Box.center().x()));
+    Leaves.setFillRule(Qt::WindingFill);
+    P.fillPath(Leaves, Alpha(Gold, .3));
 }
 
 static void DrawBar(QPainter& P, const QRectF& Box)
@@ -52,6 +71,7 @@ static void DrawBar(QPainter& P, const QRectF& Box)
     const QRectF Score = BoxOf("lblScore(0)"), Skip = BoxOf("lblSkipTrack");
     const double Left = Score.x() - 4, Width = Score.width() + 8;
     DrawPlate(P, QRectF(Left, Note.y() - 2, Width, Note.height() + 4));
+    DrawLaurel(P, QRectF(Left + 14, Note.y() + 16, Width - 28, Note.height() - 24));
     // No word here: while no game runs, the label itself says "Score".
     DrawRule(P, Left + 12, Left + Width - 12, Note.y() + 17);
     const QRectF Cup(Left + Width / 2 - 12, Note.y() + 5, 24, 24);

@@ -8,21 +8,14 @@ static void DrawSockets(QPainter& P, const QString& Panel)
         if (E.Drawn && E.Base.startsWith("img") && !E.Base.endsWith("DIS")) DrawSocket(P, E.Box);
 }
 
-static void DrawEmblem(QPainter& P, const QRectF& Box)
-{
-    const QPainterPath Pagoda = Fitted(PagodaPath(3), Box);
-    P.fillPath(Pagoda.translated(-1, 1.4), Alpha("#04100a", .8));
-    P.fillPath(Pagoda, Linear(Box.right(), Box.top(), Box.left(), Box.bottom(),
-                              {"#fff3bf", "#e9c25a", "#b88220"}));
-}
-
 static void DrawMenu(QPainter& P, const QRectF& Box)
 {
     DrawPanel(P, Box.adjusted(.5, .5, -.5, -.5), 11);
+    DrawReliefScene(P, Box.adjusted(9, Box.height() - 86, -9, -9));
     DrawEmblem(P, QRectF(32, 18, 44, 42));
     DrawTitle(P, QRectF(70, 20, Box.width() - 100, 40), "Pagodas", 31);
     DrawSockets(P, "picMenu");
-    DrawRule(P, 40, Box.width() - 40, BoxOf("lblxpack_Title").top() - 3);
+    DrawRule(P, 40, Box.width() - 40, BoxOf("lblxpack_Title").top() - 5);
 }
 
 static void DrawQuestion(QPainter& P, const QRectF& Box, const QString& Panel, Sign Drawn,

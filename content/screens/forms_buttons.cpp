@@ -8,17 +8,19 @@ struct ButtonRow {
     Sign Drawn;
     const char* Caption;
     ButtonState State;
+    ButtonPlace Place = ButtonPlace::Middle;
 };
 
+static const ButtonPlace Column = ButtonPlace::Column;
 static const ButtonState Rest = ButtonState::Rest, Lit = ButtonState::Lit,
                          Off = ButtonState::Disabled;
 
 static const ButtonRow Buttons[] = {
     // the control bar
-    {"imgButMenu", MainSheet, Sign::Menu, "Menu", Rest},
-    {"imgButMenuDIS", MainSheet, Sign::Menu, "Menu", Off},
-    {"imgButLayout", MainSheet, Sign::Layout, "Layout", Rest},
-    {"imgButLayoutDIS", MainSheet, Sign::Layout, "Layout", Off},
+    {"imgButMenu", MainSheet, Sign::Menu, "Menu", Rest, Column},
+    {"imgButMenuDIS", MainSheet, Sign::Menu, "Menu", Off, Column},
+    {"imgButLayout", MainSheet, Sign::Layout, "Layout", Rest, Column},
+    {"imgButLayoutDIS", MainSheet, Sign::Layout, "Layout", Off, Column},
     {"imgbutStart", MainSheet, Sign::Start, "START", Lit},
     {"imgbutStartDIS", MainSheet, Sign::Start, "START", Off},
     {"imgbutEnd", MainSheet, Sign::End, "END", Rest},
@@ -45,14 +47,14 @@ static const ButtonRow Buttons[] = {
     {"imgAcceptWord", MainSheet, Sign::Accept, "ACCEPT", Rest},
     {"imgAcceptWordDIS", MainSheet, Sign::Accept, "ACCEPT", Off},
     // the menu
-    {"imgMenuOptions", MenuSheet, Sign::Options, "Options", Rest},
-    {"imgMenuScores", MenuSheet, Sign::Scores, "High scores", Rest},
-    {"imgMenuHistory", MenuSheet, Sign::History, "History", Rest},
-    {"imgMenuProfile", MenuSheet, Sign::Profile, "Player profile", Rest},
-    {"imgMenuHelp", MenuSheet, Sign::Help, "Help", Rest},
-    {"imgExpansionPacks", MenuSheet, Sign::Packs, "Content packs", Rest},
-    {"imgExit", MenuSheet, Sign::Exit, "Leave Pagodas", Rest},
-    {"imgCancel", MenuSheet, Sign::Back, "Back to the board", Lit},
+    {"imgMenuOptions", MenuSheet, Sign::Options, "Options", Rest, Column},
+    {"imgMenuScores", MenuSheet, Sign::Scores, "High scores", Rest, Column},
+    {"imgMenuHistory", MenuSheet, Sign::History, "History", Rest, Column},
+    {"imgMenuProfile", MenuSheet, Sign::Profile, "Player profile", Rest, Column},
+    {"imgMenuHelp", MenuSheet, Sign::Help, "Help", Rest, Column},
+    {"imgExpansionPacks", MenuSheet, Sign::Packs, "Content packs", Rest, Column},
+    {"imgExit", MenuSheet, Sign::Exit, "Leave Pagodas", Rest, Column},
+    {"imgCancel", MenuSheet, Sign::Back, "Back to the board", Lit, Column},
     // boxes
     {"imgExitYES", ExitSheet, Sign::Yes, "Yes", Rest},
     {"imgExitNO", ExitSheet, Sign::No, "No", Rest},
@@ -85,7 +87,7 @@ static const ButtonRow Buttons[] = {
     {"imgHelpBut(2)", HelpSheet, Sign::None, "Free tiles", Rest},
     {"imgHelpBut(3)", HelpSheet, Sign::None, "Powers", Rest},
     {"imgHelpBut(4)", HelpSheet, Sign::None, "Scores", Rest},
-    {"imgHelpBut(5)", HelpSheet, Sign::None, "Boards, packs", Rest},
+    {"imgHelpBut(5)", HelpSheet, Sign::None, "Boards", Rest},
     {"imgBackToGame", HelpSheet, Sign::Back, "Back", Lit},
     // the chooser
     {"imgChooseLayout(0)", ChooserSheet, Sign::Layout, "Choose a layout", Rest},
@@ -137,7 +139,7 @@ void AddButtons(FormPictures& To)
 {
     for (const ButtonRow& Row : Buttons)
         AddForm(To, Row.Element, Row.On, [&](QPainter& P, const QRectF& Box) {
-            DrawButton(P, Box, Row.Drawn, Row.Caption, Row.State);
+            DrawButton(P, Box, Row.Drawn, Row.Caption, Row.State, Row.Place);
         });
     AddGroups(To, "clpButGroupOff", ButtonState::Rest);
     AddGroups(To, "clpButGroupOn", ButtonState::Lit);

@@ -39,6 +39,15 @@ static void DrawSingleTile(QPainter& P, const QRectF& Box)
     P.strokePath(Frame, Line(Alpha("#fff2c0", .8), .8));
 }
 
+// The plate of the page of tile sets, with its two arrows; in Wisdom it goes with its panel.
+static void DrawPagePlate(QPainter& P, const QRectF&)
+{
+    const QRectF Left = BoxOf("lblTS_PageL"), Right = BoxOf("lblTS_PageR");
+    DrawPlate(P, Left.united(Right).adjusted(0, 1, 0, -1));
+    for (const double X : {Left.right() - .5, Right.left() - .5})
+        P.fillRect(QRectF(X, Left.top() + 7, 1, Left.height() - 14), Alpha(Gold, .5));
+}
+
 static void DrawThumbFrame(QPainter& P, const QRectF& Box)
 {
     const QPainterPath Frame = Rounded(1.8, 1.8, Box.width() - 3.6, Box.height() - 3.6, 5);
@@ -86,6 +95,7 @@ void AddScreens(FormPictures& To)
     for (const bool On : {false, true})
         AddForm(To, On ? "imgWisdomTile(1)" : "imgWisdomTile(0)", OptionsSheet,
                 [&](QPainter& P, const QRectF& Box) { DrawWisdomTile(P, Box, On); });
+    AddForm(To, "picTileSetPage", OptionsSheet, DrawPagePlate);
     AddForm(To, "imgSingleTile", OptionsSheet, DrawSingleTile);
     AddForm(To, "imgThumbFrame", ChooserSheet, DrawThumbFrame);
     AddForm(To, "imgSet", ChooserSheet, DrawSet);

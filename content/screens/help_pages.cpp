@@ -54,10 +54,7 @@ static void DrawPage(QPainter& P, const QString& Title, int Page)
     FillJade(P, Whole, "#245647", PanelDark);
     DrawGoldLine(P, Scalloped(QRectF(6, 6, 1012, 756), 12), 2);
     P.strokePath(Scalloped(QRectF(11, 11, 1002, 746), 11), Line(Alpha(Gold, .45), .8));
-    const QRectF Mark(40, 20, 38, 38);
-    P.fillPath(Fitted(PagodaPath(3), Mark),
-               Linear(Mark.right(), Mark.top(), Mark.left(), Mark.bottom(),
-                      {"#fff3bf", "#e9c25a", "#b88220"}));
+    DrawEmblem(P, QRectF(40, 20, 38, 38));
     DrawTitle(P, QRectF(92, 14, 700, 52), Title, 31, Qt::AlignLeft);
     const QRectF Paper(26, 70, 972, 622);
     DrawParchment(P, Paper, 5);
@@ -66,10 +63,15 @@ static void DrawPage(QPainter& P, const QString& Title, int Page)
     for (int I = 1; I <= 5; ++I) {
         const QRectF Button = BoxOf(QString("imgHelpBut(%1)").arg(I));
         DrawSocket(P, Button);
-        if (I == Page) { // a gold point marks the page on show
-            const double X = Button.center().x(), Y = Button.top() - 7.5;
-            P.fillPath(Polygon({{X - 7, Y}, {X, Y - 3.6}, {X + 7, Y}, {X, Y + 3.6}}),
-                       QColor("#f3d478"));
+        if (I == Page) { // a golden socket marks the page on show
+            for (const double Glow : {7.0, 5.0, 3.0})
+                P.strokePath(Rounded(Button.x() - 2.5, Button.y() - 2.5, Button.width() + 5,
+                                     Button.height() + 5, 7),
+                             Line(Alpha(LitFrame, .16), Glow));
+            DrawGoldLine(P,
+                         Rounded(Button.x() - 2.5, Button.y() - 2.5, Button.width() + 5,
+                                 Button.height() + 5, 7),
+                         2.2);
         }
     }
     DrawSocket(P, BoxOf("imgBackToGame"));
@@ -393,22 +395,19 @@ static void DrawScoring(QPainter& P)
     }
 }
 
-// A small stack of plain tiles, for the sizes of layouts.
-static void DrawStack(QPainter& P, const TileSheet& Faces, double X, double Y, double Scale,
-                      int Layers)
+// The picture of a layout of list 0, cut from the chooser's sheet of its group.
+static QImage ReadThumbnail(const QString& GameFolder, int Layout)
 {
-    P.save();
-    P.translate(X, Y);
-    P.scale(Scale, Scale);
-    for (int Layer = 0; Layer < Layers; ++Layer)
-        for (int Row = Layer / 2; Row < 4 - (Layer + 1) / 2; ++Row)
-            for (int Column = Layer; Column < 6 - Layer; ++Column)
-                DrawTile(P, Faces, 1 + (Layer * 11 + Row * 7 + Column * 5) % 36, Column * 61.0,
-                         Row * 61.0, Layer + 1);
-    P.restore();
+    const int Group = (Layout - 1) / 12;
+    const QString Path = GameFolder + QString("/DATA/LY%1").arg(Group + 1, 4, 10, QChar('0'));
+    const QImage Sheet(Path);
+    const QSize Size = BoxOf("picThumbs").size().toSize();
+    if (Sheet.size() != Size) FatalError("cannot read the sheet of layouts " + Path);
+    const QRectF Place = BoxOf(QString("lblThumbs(%1)").arg((Layout - 1) % 12));
+    return Sheet.copy(Place.toRect());
 }
 
-static void DrawBoards(QPainter& P, const TileSheet& Faces)
+static void DrawBoards(QPainter& P, const TileSheet& Faces, const QString& GameFolder)
 {
     DrawPage(P, "Boards, packs and the window", 5);
     Head(P, 52, 86, 440, "Layouts");
@@ -416,16 +415,24 @@ static void DrawBoards(QPainter& P, const TileSheet& Faces)
           "360 layouts come with the game, in three sets A, B and C of 120. The arrows in the "
           "chooser turn to "
           "the next set.");
-    const std::pair<const char*, const char*> Sizes[] = {{"72 tiles", "1 to 12"},
-                                                         {"144 tiles", "13 to 72"},
-                                                         {"216 tiles", "73 to 108"},
-                                                         {"288 tiles", "109 to 120"}};
-    for (int I = 0; I < 4; ++I) {
-        const double X = 52 + 112 * I;
-        Figure(P, QRectF(X, 186, 104, 84));
-        DrawStack(P, Faces, X + 11, 206 + (I == 3 ? 4 : 0), .21, I + 1);
-        Words(P, X, 274, 104, QString("%1\n%2").arg(Sizes[I].first, Sizes[I].second), 13.5,
+    struct SizeRow {
+        const char* Tiles;
+        const char* Numbers;
+        int Sample; // a layout of that size
+    };
+    const SizeRow Sizes[] = {{"72 tiles", "1 to 12", 7},
+                             {"144 tiles", "13 to 72", 13},
+                             {"216 tiles", "73 to 108", 84},
+                             {"288 tiles", "109 to 120", 110}};
+    double X = 52;
+    for (const SizeRow& Row : Sizes) {
+        const QRectF Frame(X, 186, 104, 84);
+        Figure(P, Frame);
+        const QImage Thumb = ReadThumbnail(GameFolder, Row.Sample);
+        DrawFitted(P, CropToInk(Thumb), Frame.adjusted(6, 6, -6, -6));
+        Words(P, X, 274, 104, QString("%1\n%2").arg(Row.Tiles, Row.Numbers), 13.5,
               Qt::AlignHCenter);
+        X += 112;
     }
     Head(P, 52, 328, 440, "Random layouts");
     Words(P, 52, 358, 440,
@@ -470,29 +477,14 @@ static void DrawBoards(QPainter& P, const TileSheet& Faces)
 void WriteHelpPages(const QString& Folder, const QString& GameFolder)
 {
     const TileSheet Faces = ReadTiles(GameFolder, 1), Letters = ReadTiles(GameFolder, 0);
-    for (int Page = 1; Page <= 5; ++Page) {
-        QImage Image(1024, 768, QImage::Format_RGB32);
-        Image.fill(Qt::black);
-        QPainter P(&Image);
-        P.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        switch (Page) {
-        case 1:
-            DrawGames(P, Faces, Letters);
-            break;
-        case 2:
-            DrawFreeTiles(P, Faces);
-            break;
-        case 3:
-            DrawPowers(P);
-            break;
-        case 4:
-            DrawScoring(P);
-            break;
-        case 5:
-            DrawBoards(P, Faces);
-            break;
-        }
-        P.end();
-        SavePng(Image, Folder + QString("/DATA/HP%1").arg(Page, 4, 10, QChar('0')));
-    }
+    const std::function<void(QPainter&)> Pages[] = {
+        [&](QPainter& P) { DrawGames(P, Faces, Letters); },
+        [&](QPainter& P) { DrawFreeTiles(P, Faces); },
+        [&](QPainter& P) { DrawPowers(P); },
+        [&](QPainter& P) { DrawScoring(P); },
+        [&](QPainter& P) { DrawBoards(P, Faces, GameFolder); },
+    };
+    int Page = 0;
+    for (const auto& Draw : Pages)
+        WriteFullScreen(Folder + QString("/DATA/HP%1").arg(++Page, 4, 10, QChar('0')), Draw);
 }

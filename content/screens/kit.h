@@ -35,8 +35,12 @@ void DrawPlate(QPainter& P, const QRectF& Box, double Radius = 4); // sunken, fo
 void DrawSocket(QPainter& P, const QRectF& Button);                // the hollow a button sits in
 void DrawParchment(QPainter& P, const QRectF& Box, double Radius = 3);
 void DrawRule(QPainter& P, double X1, double X2, double Y); // a gold line with a lozenge
+void DrawEmblem(QPainter& P, const QRectF& Box);            // a golden pagoda as large as fits
+// Hills and a pagoda, cut a little into the foot of a panel.
+void DrawReliefScene(QPainter& P, const QRectF& Box);
 
-// kit_text.cpp. A text that is wider than its box is fatal: the maker checks what it draws.
+// kit_text.cpp. A text that is wider than its box, under 12 px high or too weak on what is painted
+// beneath it is fatal: the maker measures what it draws.
 enum class Weight { Regular, Bold, Serif };
 struct TextStyle {
     double Size = 14;
@@ -111,7 +115,10 @@ QPainterPath PagodaPath(int Tiers, double Width = 100, double Height = 100); // 
 
 // kit_buttons.cpp
 enum class ButtonState { Rest, Lit, Disabled };
+// Middle sets sign and caption into the middle of the face; Column starts them at its left, so that
+// those of buttons over one another stand in line.
+enum class ButtonPlace { Middle, Column };
 void DrawButton(QPainter& P, const QRectF& Box, Sign Which, const QString& Caption,
-                ButtonState State);
+                ButtonState State, ButtonPlace Where = ButtonPlace::Middle);
 void DrawLamp(QPainter& P, const QRectF& Box, bool On);
 void DrawOptionBall(QPainter& P, const QRectF& Box, bool On);

@@ -75,7 +75,7 @@ static double CaptionSize(const QRectF& Face)
 }
 
 void DrawButton(QPainter& P, const QRectF& Box, Sign Which, const QString& Caption,
-                ButtonState State)
+                ButtonState State, ButtonPlace Where)
 {
     const double Depth = Box.height() < 30   ? 2.5
                          : Box.height() < 46 ? 3.5
@@ -111,19 +111,18 @@ void DrawButton(QPainter& P, const QRectF& Box, Sign Which, const QString& Capti
                  Caption, Style);
         return;
     }
-    const double Size = std::min(Face.height() * .58, 32.0), Gap = 8;
+    const bool Column = Where == ButtonPlace::Column, Wide = Face.width() > 180;
+    const double Size = Column && !Wide ? 26 : std::min(Face.height() * .58, 32.0);
+    const double Gap = Column && Wide ? 16 : 8;
     const double Whole = Size + Gap + TextWidth(Caption, Style);
-    const double Left = Face.width() > 180
-                            ? Face.left() + 18
-                            : Face.left() + std::max(5.0, (Face.width() - Whole) / 2);
-    DrawSign(P, Which, QRectF(Left, Face.center().y() - Size / 2, Size, Size), C.Drawn);
+    const double Margin = Column ? (Wide ? 18 : 11) : std::max(5.0, (Face.width() - Whole) / 2);
+    const QRectF SignBox(Face.left() + Margin, Face.center().y() - Size / 2, Size, Size);
+    DrawSign(P, Which, SignBox, C.Drawn);
     TextStyle AfterSign = Style;
     AfterSign.Place = Qt::AlignLeft | Qt::AlignVCenter;
-    const double Gap2 = Face.width() > 180 ? 16 : Gap;
-    DrawText(P,
-             QRectF(Left + Size + Gap2, Face.top(), Face.right() - Left - Size - Gap2 - 3,
-                    Face.height()),
-             Caption, AfterSign);
+    const double TextLeft = SignBox.right() + Gap;
+    DrawText(P, QRectF(TextLeft, Face.top(), Face.right() - 5 - TextLeft, Face.height()), Caption,
+             AfterSign);
 }
 
 // A glass ball in a gold ring. Middle and Rim are the glass's colours.
@@ -131,7 +130,7 @@ static void DrawBall(QPainter& P, const QRectF& Box, const QColor& Shine, const 
                      const QColor& Rim, bool Glow)
 {
     const QPointF M = Box.center();
-    const double R = std::min(Box.width(), Box.height()) / 2 - (Glow ? 2.5 : 2.5);
+    const double R = std::min(Box.width(), Box.height()) / 2 - 2.5;
     if (Glow)
         P.fillPath(Circle(M.x(), M.y(), R + 2.4),
                    Radial(M.x(), M.y(), R + 2.4,

@@ -3,6 +3,8 @@
 #include "kit.h"
 
 #include <cmath>
+#include <map>
+#include <tuple>
 
 QImage NewPicture(double Width, double Height)
 {
@@ -49,10 +51,15 @@ void SoftShadow(QPainter& P, const QPainterPath& Shape, double Blur, double Stre
 
 // Polished jade: light at the upper right, slow clouds, a few thin veins and a fine grain. The
 // texture is worked out for the pixels of the device, so the grain stays fine at every size.
-static QImage JadeTexture(int Width, int Height, double Scale, QPointF Origin, const QColor& Light1,
-                          const QColor& Dark1)
+static const QImage& JadeTexture(int Width, int Height, double Scale, QPointF Origin,
+                                 const QColor& Light1, const QColor& Dark1)
 {
-    QImage Image(Width, Height, QImage::Format_RGB32);
+    // Every full screen stands on the same slab: it is cut once.
+    static std::map<std::tuple<int, int, double, double, double, QRgb, QRgb>, QImage> Slabs;
+    QImage& Image =
+        Slabs[{Width, Height, Scale, Origin.x(), Origin.y(), Light1.rgb(), Dark1.rgb()}];
+    if (!Image.isNull()) return Image;
+    Image = QImage(Width, Height, QImage::Format_RGB32);
     Random R{7};
     for (int Y = 0; Y < Height; ++Y) {
         QRgb* Row = reinterpret_cast<QRgb*>(Image.scanLine(Y));
@@ -191,4 +198,41 @@ void DrawRule(QPainter& P, double X1, double X2, double Y)
         Polygon({{Middle - 7, Y}, {Middle, Y - 4}, {Middle + 7, Y}, {Middle, Y + 4}});
     P.fillPath(Lozenge, Linear(Middle + 7, Y - 4, Middle - 7, Y + 4, {GoldLight, Gold, GoldDark}));
     P.strokePath(Lozenge, Line(Alpha("#1a0f02", .7), .6));
+}
+
+void DrawEmblem(QPainter& P, const QRectF& Box)
+{
+    const QPainterPath Pagoda = Fitted(PagodaPath(3), Box);
+    P.fillPath(Pagoda.translated(-1, 1.4), Alpha("#04100a", .8));
+    P.fillPath(Pagoda, Linear(Box.right(), Box.top(), Box.left(), Box.bottom(),
+                              {"#fff3bf", "#e9c25a", "#b88220"}));
+}
+
+// A range of hills over the whole width of the box, its crests at the upper edge.
+static QPainterPath HillsIn(const QRectF& Box, double Wide, std::uint32_t Seed)
+{
+    QPainterPath Path(Box.bottomLeft());
+    for (double X = 0; X <= Box.width(); X += 2)
+        Path.lineTo(Box.left() + X,
+                    Box.top() + Box.height() * FractalNoise(X / Wide + Seed, Seed * 1.7, Seed, 3));
+    Path.lineTo(Box.bottomRight());
+    Path.closeSubpath();
+    return Path;
+}
+
+void DrawReliefScene(QPainter& P, const QRectF& Box)
+{
+    P.save();
+    P.setClipPath(Scalloped(Box, 8), Qt::IntersectClip);
+    const double H = Box.height();
+    const auto Cut = [&](const QPainterPath& Shape, double Depth) {
+        P.fillPath(Shape, Alpha("#04140c", Depth));
+        P.strokePath(Shape, Line(Alpha("#8fc7a6", .16), .9)); // light on the lower left rim
+    };
+    Cut(HillsIn(Box.adjusted(0, H * .1, 0, 0), 90, 3), .16);
+    Cut(Moved(PagodaPath(5), Box.right() - H * .95, Box.top() + H * .02, 0, H * .0066, H * .0078),
+        .3);
+    Cut(Moved(PagodaPath(3), Box.left() + H * .3, Box.top() + H * .4, 0, H * .0044, H * .005), .26);
+    Cut(HillsIn(Box.adjusted(0, H * .5, 0, 0), 130, 11), .34);
+    P.restore();
 }

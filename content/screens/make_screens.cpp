@@ -2,7 +2,7 @@
 //
 //   make-screens OUTDIR forms         the pictures of the elements, and the icons
 //   make-screens OUTDIR backgrounds   the grounds of the full-size screens
-//   make-screens OUTDIR help GAMEDIR  the help pages, with the tiles of GAMEDIR
+//   make-screens OUTDIR help GAMEDIR  the help pages, with the tiles and layouts of GAMEDIR
 
 #include "forms.h"
 

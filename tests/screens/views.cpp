@@ -277,7 +277,11 @@ static const std::vector<View> Views = {
          FillRecords();
          Win(1);
      }},
-    {"high-score", [] { Win(28000); }},
+    {"high-score",
+     [] {
+         Win(28000);
+         SendText(txtName, "anna maria");
+     }},
     {"high-score-empty",
      [] {
          Win(28000);
