@@ -26,7 +26,7 @@ void DrawEmblemTile(QPainter& P, const QRectF& Box, int Tiers)
 static void DrawLogo(QPainter& P, const QRectF& Box)
 {
     DrawPanel(P, Box.adjusted(2, 2, -2, -2), 16);
-    DrawReliefScene(P, Box.adjusted(12, Box.height() - 120, -12, -12));
+    DrawReliefScene(P, Box.adjusted(12, Box.height() - 92, -12, -12));
     const QRectF Tile(Box.center().x() - 88, 38, 168, 168);
     P.save();
     P.translate(-5, 7);

@@ -274,7 +274,7 @@ static const std::vector<View> Views = {
      }},
     {"congratulations",
      [] {
-         FillRecords();
+         for (int Rank = 1; Rank <= 10; ++Rank) GameState.ScoreTable(Wisdom, 19, Rank).Score = 2;
          Win(1);
      }},
     {"high-score",
