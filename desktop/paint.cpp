@@ -1,11 +1,13 @@
 #include "desktop/desktop.h"
+#include "frame/frame.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
 
-constexpr int SmallestFont = 12; // pixels of the screen; a caption shrinks no further
+constexpr double PressedLight = .84; // a pressed button lies deeper: its dark socket shows through
+constexpr int SmallestFont = 12;     // pixels of the screen; a caption shrinks no further
 
 // An element's place on the window, rounded once, in device pixels.
 static QRect PlaceOf(const ScreenView& View, double Left, double Top, double Width, double Height)
@@ -48,7 +50,9 @@ static void PaintPicture(QPainter& Painter, const ScreenView& View, const Elemen
     if (!Found.Image) return;
     // Pictures show at their natural size, cut by the element's edge.
     const QSize Size = Found.Part.size().boundedTo(Place.size() + QSize(1, 1));
+    Painter.setOpacity(&E == PressedButton() ? PressedLight : 1);
     Painter.drawImage(Place.topLeft(), *Found.Image, QRect(Found.Part.topLeft(), Size));
+    Painter.setOpacity(1);
 }
 
 static void PaintElement(QPainter& Painter, const ScreenView& View, const Element& E, double Left,

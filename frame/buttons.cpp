@@ -21,6 +21,11 @@ void ReleaseButton()
     GameState.ButtonDown = 0;
 }
 
+const Element* PressedButton()
+{
+    return MovedButton == NoElement ? nullptr : &Elements[MovedButton];
+}
+
 void ImageButtonDown(const Element& Button, MouseButton Mouse)
 {
     if (Mouse != MouseButton::Left) return;

@@ -43,3 +43,4 @@ void ImageButtonDown(const Element& Button, MouseButton Mouse);
 void ImageButtonUp(const Element& Button, MouseButton Mouse);
 // Puts the moved picture back and clears the latch, for a button that does its work on the press.
 void ReleaseButton();
+const Element* PressedButton(); // whose picture is moved; nullptr for none

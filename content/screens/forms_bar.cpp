@@ -73,9 +73,7 @@ static void DrawBar(QPainter& P, const QRectF& Box)
     DrawPlate(P, QRectF(Left, Note.y() - 2, Width, Note.height() + 4));
     DrawLaurel(P, QRectF(Left + 14, Note.y() + 16, Width - 28, Note.height() - 24));
     // No word here: while no game runs, the label itself says "Score".
-    DrawRule(P, Left + 12, Left + Width - 12, Note.y() + 17);
     const QRectF Cup(Left + Width / 2 - 12, Note.y() + 5, 24, 24);
-    P.fillRect(Cup.adjusted(-6, 0, 6, 0), QColor(PlateDark));
     DrawSign(P, Sign::Scores, Cup,
              {.Main = QColor("#c89a2c"), .Gold = QColor("#e8bd4e"), .Ground = QColor("#fff0b0")});
     const QRectF Track(Left, Name.y() - 4, Width, Foot + 1 - Name.y() + 4);

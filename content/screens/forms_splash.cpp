@@ -59,13 +59,29 @@ void AddSplash(FormPictures& To)
     AddForm(To, "imgTitle", SplashSheet, DrawTitlePicture);
 }
 
+// Up to 24 px the walls of the tile would leave the picture no room: its face alone is shown.
+static void DrawSmallIcon(QPainter& P, int Size)
+{
+    P.scale(Size / 24.0, Size / 24.0);
+    const QPainterPath Face = Rounded(.5, .5, 23, 23, 4);
+    P.fillPath(Face, Linear(23, 0, 1, 23, {IvoryLight, IvoryDark}));
+    P.strokePath(Face, Line(JadeFoot, 1));
+    P.fillPath(Circle(12, 11, 8.6), Linear(20, 3, 4, 19, {"#ef5a3c", "#c22f1e"}));
+    const QPainterPath Pagoda = Fitted(PagodaPath(2), QRectF(3, 2.5, 18, 18.5));
+    P.strokePath(Pagoda, Line("#fffaea", 1));
+    P.fillPath(Pagoda, QColor("#12503a"));
+}
+
 void WriteIcons(const QString& Folder)
 {
     for (const int Size : {16, 24, 32, 48, 64, 128, 256, 512}) {
         QImage Image = NewImage(Size, Size);
         QPainter P(&Image);
         P.setRenderHint(QPainter::Antialiasing);
-        DrawEmblemTile(P, QRectF(0, 0, Size, Size), Size < 32 ? 2 : Size < 64 ? 3 : 4);
+        if (Size <= 24)
+            DrawSmallIcon(P, Size);
+        else
+            DrawEmblemTile(P, QRectF(0, 0, Size, Size), Size < 64 ? 3 : 4);
         P.end();
         SavePng(Image, Folder + QString("/ICON/%1.png").arg(Size));
     }

@@ -1,5 +1,5 @@
 // screen_pictures_test.cpp: every element has its picture, every text its contrast and its room
-#include "frame/elements.h"
+#include "tests/common/game_dir.h"
 #include "tests/screens/views.h"
 
 #include <QFile>
@@ -459,6 +459,23 @@ TEST(Views, EveryViewLooksDifferent)
         for (const auto& [Name, Other] : Seen)
             EXPECT_FALSE(Screen == Other) << One.Name << " looks like " << Name;
         Seen.emplace_back(One.Name, Screen);
+    }
+}
+
+// A press moves a button by one pixel only, so it must lose light too.
+TEST(Views, APressedButtonIsDarkerThanAtRest)
+{
+    for (const Element* Button : {&imgMixFinesse, &imgButMenu, &imgbutEnd}) {
+        BootGame();
+        PressAt(imgbutStart);
+        const Point Place = ScreenPlace(*Button);
+        const QRectF Face(Place.X + 10, Place.Y + 6, Button->Width - 18, Button->Height - 16);
+        const double Rest = Luminance(MeanColour(PaintedScreen(1), Face));
+        SendMouseDown(MouseButton::Left, Place.X + 20, Place.Y + 20);
+        const double Pressed = Luminance(MeanColour(PaintedScreen(1), Face.translated(1, 1)));
+        EXPECT_LT(Pressed, .8 * Rest) << ElementText(*Button);
+        SendMouseUp(MouseButton::Left, Place.X + 20, Place.Y + 20);
+        EXPECT_EQ(PressedButton(), nullptr);
     }
 }
 
