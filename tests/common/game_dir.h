@@ -20,10 +20,11 @@ inline std::string FreshGameDirectory()
     return Folder;
 }
 
-// The idle main screen of a first run.
+// The idle main screen of a first run; each time the same, with the same deals to come.
 inline void BootGame()
 {
     static long long Time;
+    Time = 0;
     Time = 0;
     GameState = GameStateRecord();
     GameDirectory = FreshGameDirectory();
@@ -31,7 +32,7 @@ inline void BootGame()
     InitElements();
     SetAllHandlers();
     SplashLoad();
-    for (int Step = 0; Step <= 60; ++Step) RunDueTimers(Time += 100);
+    for (; Time <= 6000; Time += 100) RunDueTimers(Time);
 }
 
 // A press at the middle of an element: whatever lies on top there takes it.

@@ -82,7 +82,6 @@ static void SpellWord(int Letters)
 static void StandNote(int Note, const char* Number)
 {
     Deal();
-    if (Note == NoteOpenPairs) return ShowOpenPairCount();
     ShowNote(Note);
     SetCaption(lblBonus, Number);
 }
@@ -164,7 +163,6 @@ static const std::vector<View> Views = {
     {"note-2", [] { StandNote(2, ""); }},
     {"note-3", [] { StandNote(3, ""); }},
     {"note-5", [] { StandNote(5, ""); }},
-    {"note-6", [] { StandNote(6, ""); }},
     {"note-7", [] { StandNote(7, "22+"); }},
     {"note-8", [] { StandNote(8, "78"); }},
     {"note-9", [] { StandNote(9, ""); }},
