@@ -34,7 +34,10 @@ std::vector<std::string> Seeds()
                              Question(0, "STONER") + Question(WordOfBlock, "\x01");
     const std::string Add = Question(AddInMiddle, "ZEBRA") + Question(AddAtOverflow, "ABBEY") +
                             Question(CutFile, "\x80") + Question(CheckWord, "ABBEY");
-    return {Look + Headed, Add + Headed, Look + Plain, Add + Plain};
+    // The first entry of the index, that of ABOVE, says that it has 255 references.
+    std::string Lying = Question(SuggestAll, "ABOVE") + Look.substr(QuestionSize) + Headed;
+    Lying[FileStart + (1 + static_cast<std::size_t>(Size.WordBlocks)) * 128 + 2] = '\xff';
+    return {Look + Headed, Add + Headed, Look + Plain, Add + Plain, Lying};
 }
 
 static int Ask(const std::string& Word, int Command)
