@@ -285,8 +285,20 @@ void GameWindow::mouseMoveEvent(QMouseEvent* Event)
     AfterEvent();
 }
 
+static void ComeBack()
+{
+    if (!Minimised) return;
+    Minimised = false;
+    ScreenOnShow = nullptr; // the window is to be brought up as it now should be
+    MainScreen_Resize();
+    AfterEvent();
+}
+
 void GameWindow::mousePressEvent(QMouseEvent* Event)
 {
+    // A desktop that minimises no windows has left it where it was. (The second press of a double
+    // click on the button comes too early to tell.)
+    if (Event->type() == QEvent::MouseButtonPress) ComeBack();
     const QPointF At = OnScreen(Event->position());
     SendMouseDown(ButtonOf(Event), static_cast<float>(At.x()), static_cast<float>(At.y()));
     AfterEvent();
@@ -321,17 +333,11 @@ void GameWindow::closeEvent(QCloseEvent* Event)
     AfterEvent();
 }
 
+// How a minimised window is told to be back differs by desktop, and comes in any order. Each of
+// them makes it active again.
 void GameWindow::changeEvent(QEvent* Event)
 {
-    if (!Minimised) return;
-    // Wayland does not tell that a window is minimised: it is back when it is active again.
-    static const bool Wayland = QGuiApplication::platformName().startsWith("wayland");
-    if (Event->type() != (Wayland ? QEvent::ActivationChange : QEvent::WindowStateChange)) return;
-    if (Wayland ? !isActiveWindow() : isMinimized()) return;
-    Minimised = false;
-    ScreenOnShow = nullptr; // the window is to be brought up as it now should be
-    MainScreen_Resize();
-    AfterEvent();
+    if (Event->type() == QEvent::ActivationChange && isActiveWindow()) ComeBack();
 }
 
 bool GameWindow::event(QEvent* Event)
