@@ -24,6 +24,8 @@ xdotool type 'Window Bot'
 shot played-typed
 xdotool key Return
 sleep 0.7
+xdotool mousemove 3 300
+sleep 0.3
 shot played-scores
 press imgOKScores
 shot played-idle
@@ -45,4 +47,23 @@ score=$(sed -n 1p "$WORK/recorded")
 [ "$score" -ge $((144 - left)) ] || fail "the score $score is less than two a pair"
 [ "$(sed -n 2p "$WORK/recorded")" = '"window bot"' ] || fail "the name is not in the table"
 [ "$(($(sed -n 3p "$WORK/recorded") + $(sed -n 4p "$WORK/recorded")))" = 1 ] || fail "the game was not counted"
+
+# The program itself shows the same score table when it is started again, and the settings stay.
+cp "$WORK/game/Settings.dat" "$WORK/saved"
+start_game
+press imgButMenu
+press imgMenuScores
+xdotool mousemove 3 300
+sleep 0.5
+shot played-scores-again
+press imgOKScores
+press lblCloseGame
+wait_for_end
+difference=$(compare -metric AE -fuzz 3% "$SHOTS/played-scores.png" "$SHOTS/played-scores-again.png" null: 2>&1 || true)
+# the new entry alone was marked by its colour
+awk -v d="$difference" 'BEGIN { exit !(d < 3000) }' || fail "the second start shows another table ($difference pixels)"
+# all but the place of the tune, bytes 30 and 31, which moves on at every start
+{ head -c 30 "$WORK/game/Settings.dat"; tail -c +33 "$WORK/game/Settings.dat"; } >"$WORK/after"
+{ head -c 30 "$WORK/saved"; tail -c +33 "$WORK/saved"; } >"$WORK/before"
+cmp -s "$WORK/before" "$WORK/after" || fail "the settings did not stay"
 echo "a whole game was played in the window"
