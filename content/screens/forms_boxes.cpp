@@ -11,7 +11,7 @@ static void DrawSockets(QPainter& P, const QString& Panel)
 static void DrawMenu(QPainter& P, const QRectF& Box)
 {
     DrawPanel(P, Box.adjusted(.5, .5, -.5, -.5), 11);
-    DrawReliefScene(P, Box.adjusted(9, Box.height() - 86, -9, -9));
+    DrawReliefScene(P, Box.adjusted(9, Box.height() - 70, -9, -9));
     DrawEmblem(P, QRectF(32, 18, 44, 42));
     DrawTitle(P, QRectF(70, 20, Box.width() - 100, 40), "Pagodas", 31);
     DrawSockets(P, "picMenu");

@@ -112,7 +112,7 @@ void DrawButton(QPainter& P, const QRectF& Box, Sign Which, const QString& Capti
         return;
     }
     const bool Column = Where == ButtonPlace::Column, Wide = Face.width() > 180;
-    const double Size = Column && !Wide ? 25 : std::min(Face.height() * .58, 32.0);
+    const double Size = Column ? 25 : std::min(Face.height() * .58, 32.0);
     const double Gap = Column ? (Wide ? 16 : 7) : 8;
     const double Whole = Size + Gap + TextWidth(Caption, Style);
     const double Margin = Column ? (Wide ? 18 : 10) : std::max(5.0, (Face.width() - Whole) / 2);

@@ -150,6 +150,7 @@ static const std::vector<View> Views = {
     {"board", Deal},
     {"board-1", [] { ShowBoard(1, 9, 9); }},
     {"board-40", [] { ShowBoard(40, 53, 24); }},
+    {"board-13", [] { ShowBoard(13, 1, 28); }},
     {"board-77", [] { ShowBoard(77, 29, 43); }},
     {"board-109", [] { ShowBoard(109, 70, 55); }},
     {"board-120", [] { ShowBoard(120, 14, 35); }},
