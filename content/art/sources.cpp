@@ -120,21 +120,29 @@ static void SvgMessage(QtMsgType, const QMessageLogContext&, const QString& Text
     std::fprintf(stderr, "%s\n", qPrintable(Text));
 }
 
-static QImage SvgPicture(const QString& Path)
+static QImage SvgPicture(const QString& Path, const QString& Id)
 {
     constexpr double Wanted = 360;
     const QtMessageHandler Before = qInstallMessageHandler(SvgMessage);
     QSvgRenderer Renderer(Path);
     if (!Renderer.isValid()) FatalError("cannot read " + Path);
-    const QRectF View = Renderer.viewBoxF();
+    if (!Id.isEmpty() && !Renderer.elementExists(Id)) FatalError(Path + " has no drawing " + Id);
+    const QRectF View = Id.isEmpty() ? Renderer.viewBoxF() : Renderer.boundsOnElement(Id);
     const QSizeF Size = View.isEmpty() ? QSizeF(Renderer.defaultSize()) : View.size();
     const double Longer = std::max(Size.width(), Size.height());
     const auto Render = [&](double Scale) {
-        QImage Image = NewImage(static_cast<int>(std::lround(Size.width() * Scale)),
-                                static_cast<int>(std::lround(Size.height() * Scale)));
+        // A single drawing gets room for its strokes, which its bounds may leave out.
+        const QRectF Place(QPointF(), Size * Scale);
+        const double Room = Id.isEmpty() ? 0 : .15 * std::max(Place.width(), Place.height());
+        const QRectF Page = Place.translated(Room, Room);
+        QImage Image = NewImage(static_cast<int>(std::lround(Page.right() + Room)),
+                                static_cast<int>(std::lround(Page.bottom() + Room)));
         QPainter P(&Image);
         P.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        Renderer.render(&P, QRectF(Image.rect()));
+        if (Id.isEmpty())
+            Renderer.render(&P, Page);
+        else
+            Renderer.render(&P, Id, Page);
         return Image;
     };
     // Clip art often fills a corner of its page: find the ink, then draw it at the wanted size.
@@ -153,8 +161,9 @@ QImage PictureFile(const QString& Path)
     static std::map<QString, QImage> Made;
     QImage& Image = Made[Path];
     if (!Image.isNull()) return Image;
-    if (!QFile::exists(Path)) FatalError("picture " + Path + " is missing");
-    if (Path.endsWith(".svg") || Path.endsWith(".svgz")) return Image = SvgPicture(Path);
+    const QString File = Path.section('#', 0, 0), Id = Path.section('#', 1);
+    if (!QFile::exists(File)) FatalError("picture " + File + " is missing");
+    if (File.endsWith(".svg") || File.endsWith(".svgz")) return Image = SvgPicture(File, Id);
     QImage Source(Path);
     if (Source.isNull()) FatalError("cannot read " + Path);
     return Image = CropToInk(Source.convertToFormat(QImage::Format_ARGB32_Premultiplied));

@@ -23,7 +23,8 @@ constexpr KindRow Kinds[] = {
     {"tree", DrawTree},
 };
 
-constexpr const char* PictureKinds[] = {"emoji", "clipart", "flag", "symbola", "maya", "aegyptus"};
+constexpr const char* PictureKinds[] = {"emoji",   "clipart", "drawing", "flag",
+                                        "symbola", "maya",    "aegyptus"};
 
 void DrawFace(QPainter& P, const Face& F)
 {

@@ -9,16 +9,11 @@
 static const char* const ClipArtFolder = "/usr/share/openclipart/svg/";
 static const char* const FlagFolder = "/usr/share/iso-flags-png-320x240/";
 static const char* const RoundFlagFolder = "/usr/share/iso-flags-svg/";
+static const char* const DrawingsFolder = SETS_DIR "/../drawings/";
 
-// A few letters at the lower right, for faces that are nearly alike.
-static void DrawTag(QPainter& P, const Recipe& R, const QColor& With)
+QImage OwnDrawing(const QString& Name)
 {
-    if (!Has(R, "tag")) return;
-    QPainterPath Letters = TextPath(FontFile::SansBold, Text(R, "tag"), 24);
-    const QRectF Box = Letters.boundingRect();
-    Letters.translate(97 - Box.right(), 98);
-    Stroke(P, Letters, "#ffffff", 5);
-    Fill(P, Letters, With);
+    return PictureFile(DrawingsFolder + Name);
 }
 
 // The glyph: "♈", or "U+E001", or two joined by "+".
@@ -61,6 +56,7 @@ static QImage SourceImage(const Face& F)
     const QString& Source = F.Keys.Source;
     if (Source.isEmpty()) FatalError(F.Keys.Place + ": which picture?");
     if (F.Kind == "emoji") return EmojiImage(Source);
+    if (F.Kind == "drawing") return OwnDrawing(Source);
     if (F.Kind == "clipart") return PictureFile(ClipArtFolder + Source);
     return PictureFile((Source.endsWith(".svg") ? RoundFlagFolder : FlagFolder) + Source);
 }
@@ -84,10 +80,10 @@ static void DrawRoundFlag(QPainter& P, const QImage& Flag)
 // The flag in the wind: columns are shifted by a sine and shaded by its slope.
 static QImage Waving(const QImage& Flag)
 {
-    constexpr int Width = 400;
-    const int Height = Width * Flag.height() / Flag.width();
+    // A little higher than most flags, so that they fill a tile.
+    constexpr int Width = 400, Height = 336;
     const QImage Flat = Scaled(Flag, Width, Height).convertToFormat(QImage::Format_ARGB32);
-    const int Swing = static_cast<int>(Height * .06);
+    const int Swing = static_cast<int>(Height * .05);
     QImage Wave(Width, Height + 2 * Swing, QImage::Format_ARGB32);
     Wave.fill(Qt::transparent);
     for (int X = 0; X < Width; ++X) {
@@ -113,8 +109,7 @@ static void DrawFlagFace(QPainter& P, const Face& F)
         DrawRoundFlag(P, Flag);
     else
         DrawShadowed(
-            P, [&](QPainter& G) { DrawFitted(G, Waving(Flag), QRectF(2, 10, 96, 80)); }, .4);
-    DrawTag(P, F.Keys, "#3a2a10");
+            P, [&](QPainter& G) { DrawFitted(G, Waving(Flag), QRectF(1, 4, 98, 92)); }, .4);
 }
 
 static QImage Prepared(QImage Image, const Recipe& R)
@@ -148,5 +143,4 @@ void DrawPictureFace(QPainter& P, const Face& F)
     if (Text(R, "frame") == "portrait") P.setClipPath(Ellipse(50, 50, 42, 43));
     DrawShadowed(P, [&](QPainter& G) { DrawFitted(G, Image, Room); });
     P.restore();
-    DrawTag(P, R, "#8a1c1c");
 }

@@ -64,6 +64,9 @@ void DrawShadowed(QPainter& P, const Draft& Drawing, double Opacity = .28);
 void DrawFittedDraft(QPainter& P, const Draft& Drawing, double Stretch = 1, const QRectF& Into = {},
                      double MaxScale = 1.6);
 
+// picture_kinds.cpp: a drawing of drawings/, "file.svg#name"
+QImage OwnDrawing(const QString& Name);
+
 // frames.cpp: what stands behind a face. Returns the room that is left inside.
 QRectF DrawFrame(QPainter& P, const QString& Name, const Recipe& R);
 const std::vector<QColor>& MetalStops(const QString& Name, const Recipe& R);
