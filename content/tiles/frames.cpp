@@ -36,27 +36,22 @@ static QRectF DrawDisc(QPainter& P, const QColor& Ground, const QColor& Rim)
 
 static QRectF DrawSquare(QPainter& P, const QColor& Ground, const QColor& Rim)
 {
-    Outline(P, Rounded(2, 2, 96, 96, 14), Linear(0, 0, 0, 100, {Light(Rim, .35), Dark(Rim, .2)}),
+    Outline(P, Rounded(4, 4, 92, 92, 14), Linear(0, 0, 0, 100, {Light(Rim, .35), Dark(Rim, .2)}),
             Dark(Rim, .4), 1.5);
-    Fill(P, Rounded(8, 8, 84, 84, 9),
+    Fill(P, Rounded(10, 10, 80, 80, 9),
          Linear(0, 0, 0, 100, {Light(Ground, .22), Ground, Dark(Ground, .18)}));
     return {16, 16, 68, 68};
 }
 
-static QRectF DrawHexagon(QPainter& P, const QColor& Ground, const QColor& Rim)
+// A hexagon, an octagon or a diamond.
+static QRectF DrawRegular(QPainter& P, int Corners, const QColor& Ground, const QColor& Rim)
 {
-    Fill(P, Regular(50, 50, 49, 6), Linear(0, 0, 70, 100, {Light(Rim, .5), Rim, Dark(Rim, .45)}));
-    Fill(P, Regular(50, 50, 42, 6),
+    const double Turn = Corners == 8 ? 22.5 : -90, Radius = Corners == 8 ? 51 : 50;
+    Fill(P, Regular(50, 50, Radius, Corners, Turn),
+         Linear(0, 0, 70, 100, {Light(Rim, .5), Rim, Dark(Rim, .45)}));
+    Fill(P, Regular(50, 50, Radius - 6.5, Corners, Turn),
          Radial(50, 50, 46, {Light(Ground, .25), Ground, Dark(Ground, .25)}));
-    return {22, 20, 56, 60};
-}
-
-static QRectF DrawDiamond(QPainter& P, const QColor& Ground, const QColor& Rim)
-{
-    Fill(P, Regular(50, 50, 49, 4), Linear(0, 0, 70, 100, {Light(Rim, .5), Rim, Dark(Rim, .45)}));
-    Fill(P, Regular(50, 50, 42, 4),
-         Linear(0, 0, 0, 100, {Light(Ground, .25), Ground, Dark(Ground, .2)}));
-    return {25, 25, 50, 50};
+    return Corners == 4 ? QRectF(25, 25, 50, 50) : QRectF(20, 20, 60, 60);
 }
 
 static QRectF DrawPapyrus(QPainter& P)
@@ -139,8 +134,9 @@ QRectF DrawFrame(QPainter& P, const QString& Name, const Recipe& R)
     const QColor Ground = Colour(R, "bg", "#7a1f1f"), Rim = Colour(R, "rim", "#d9a93a");
     if (Name == "disc") return DrawDisc(P, Ground, Rim);
     if (Name == "sq") return DrawSquare(P, Ground, Rim);
-    if (Name == "hex") return DrawHexagon(P, Ground, Rim);
-    if (Name == "diamond") return DrawDiamond(P, Ground, Rim);
+    if (Name == "hex") return DrawRegular(P, 6, Ground, Rim);
+    if (Name == "octagon") return DrawRegular(P, 8, Ground, Rim);
+    if (Name == "diamond") return DrawRegular(P, 4, Ground, Rim);
     if (Name == "stone") return DrawStone(P, Ground, Whole(R, "seed", 3));
     if (Name == "stamp") return DrawStamp(P, Ground);
     if (Name == "portrait") return DrawPortraitFrame(P, Ground);

@@ -5,7 +5,6 @@
 
 struct Shoe {
     const Recipe& R;
-    QString Kind;
     QColor Tint;
     QColor Tint2;
     QColor SoleTint;
@@ -65,8 +64,6 @@ static void DrawSneaker(QPainter& G, const Shoe& Own)
     }
     if (Has(Own.R, "swoosh"))
         Fill(G, ClosedCurve({{28, 70}, {52, 72}, {88, 50}, {54, 80}, {34, 80}}), Own.Tint2);
-    if (Has(Own.R, "toecap")) Fill(G, Ellipse(8, 82, 22, 20), Own.Tint2);
-    if (Has(Own.R, "star")) Fill(G, Star(72, 58, 11), Own.Tint2);
     Fill(G, ClosedCurve({{84, 30}, {100, 30}, {100, 84}, {88, 84}, {86, 56}}), Dark(Own.Tint, .2));
     G.restore();
     Lace(G, Own, {{38, 56, 2}, {44, 49, 3}, {49, 42, 3.4}}, Colour(Own.R, "lc", "#ffffff"));
@@ -92,7 +89,7 @@ static void DrawHitop(QPainter& G, const Shoe& Own)
     Outline(G, Path, Linear(0, 10, 0, 80, {Light(Own.Tint, .2), Own.Tint, Dark(Own.Tint, .12)}),
             Own.Edge, 1.8);
     Outline(G, Circle(68, 34, 10), Own.Tint2, Dark(Own.Tint2, .4), 1.3);
-    Fill(G, Star(68, 34, 7), Colour(Own.R, "sc", "#1c3f9a"));
+    Fill(G, Star(68, 34, 7), "#1c3f9a");
     Lace(G, Own, {{34, 56, 2}, {42, 47, 3}, {46, 38, 3.4}, {48, 29, 3}, {49, 20, 3}}, "#ffffff");
     G.save();
     G.setClipPath(Path);
@@ -140,37 +137,6 @@ static void DrawPump(QPainter& G, const Shoe& Own)
         for (const auto& [X, Y] : Table<double, double>{
                  {12, 79}, {22, 77}, {32, 80}, {42, 76}, {54, 74}, {62, 66}, {72, 60}})
             Fill(G, Circle(X, Y, 2.2), Own.Tint2);
-}
-
-static void DrawWedge(QPainter& G, const Shoe& Own)
-{
-    Outline(G, Polygon({{6, 82}, {40, 78}, {92, 56}, {94, 90}, {6, 90}}), Own.SoleTint,
-            Dark(Own.SoleTint, .5), 1.6);
-    for (int I = 0; I < 1; ++I)
-        StrokeLine(G, 10, 88 - I * 0 + 0, 92, 88, Dark(Own.SoleTint, .3), 1.3);
-    for (int I = 0; I < 8; ++I) {
-        StrokeLine(G, 30 + I * 8, 90 - I * 0, 30 + I * 8 + 2, 82 - I * 3, Dark(Own.SoleTint, .3),
-                   1.3);
-    }
-    for (const auto& [A, B] : Table<QPointF, QPointF>{{{10, 80}, {30, 58}}, {{24, 80}, {40, 62}}}) {
-        StrokeLine(G, A.x(), A.y(), B.x(), B.y(), Own.Edge, 8);
-        StrokeLine(G, A.x(), A.y(), B.x(), B.y(), Own.Tint, 6);
-    }
-    Stroke(G, Curve({{72, 62}, {76, 36}, {92, 40}, {92, 58}}), Own.Edge, 6);
-    Stroke(G, Curve({{72, 62}, {76, 36}, {92, 40}, {92, 58}}), Own.Tint, 4.4);
-}
-
-static void DrawSandal(QPainter& G, const Shoe& Own)
-{
-    Sole(G, Own, 80, 9, 4, 94, Own.SoleTint);
-    for (const Points& Pts : std::vector<Points>{{{10, 80}, {24, 58}, {38, 80}},
-                                                 {{34, 80}, {48, 50}, {60, 80}},
-                                                 {{66, 80}, {72, 38}, {92, 40}, {92, 80}},
-                                                 {{40, 60}, {58, 44}, {72, 42}}}) {
-        Stroke(G, Curve(Pts), Own.Edge, 8);
-        Stroke(G, Curve(Pts), Own.Tint, 6);
-    }
-    Outline(G, Rounded(70, 46, 8, 8, 1.5), "#f0c84a", "#6a4a0a", 1.2);
 }
 
 static void DrawFlip(QPainter& G, const Shoe& Own)
@@ -244,13 +210,8 @@ static void DrawLoafer(QPainter& G, const Shoe& Own)
             Own.Edge, 1.8);
     Outline(G, ClosedCurve({{22, 62}, {40, 54}, {54, 50}, {58, 62}, {44, 68}, {28, 70}}),
             Light(Own.Tint, .16), Own.Edge, 1.3);
-    if (Has(Own.R, "tassel")) {
-        Outline(G, Polygon({{36, 62}, {46, 60}, {44, 74}, {38, 74}}), Own.Tint2,
-                Dark(Own.Tint2, .4), 1);
-    } else {
-        Outline(G, Polygon({{36, 52}, {48, 48}, {54, 66}, {42, 70}}), Own.Tint2,
-                Dark(Own.Tint2, .4), 1.2);
-    }
+    Outline(G, Polygon({{36, 52}, {48, 48}, {54, 66}, {42, 70}}), Own.Tint2, Dark(Own.Tint2, .4),
+            1.2);
     Sole(G, Own, 79, 6, 4, 94, Colour(Own.R, "so", "#4a2a12"));
     Outline(G, Rounded(72, 84, 22, 8, 1.5), Colour(Own.R, "so", "#4a2a12"), "#1a0a04", 1.3);
 }
@@ -315,8 +276,6 @@ static void DrawBoot(QPainter& G, const Shoe& Own)
         for (int I = 0; I < 34; ++I)
             Fill(G, Circle(Uniform(Chance, 10, 90), Uniform(Chance, T, 80), 3.4), Own.Tint2);
     }
-    if (Has(Own.R, "bands"))
-        for (const double Y : {18, 36, 54}) FillBox(G, 30, Y, 70, 7, Own.Tint2);
     G.restore();
     if (Has(Own.R, "fur")) {
         for (int I = 0; I < 6; ++I) {
@@ -385,11 +344,6 @@ static void DrawSkate(QPainter& G, const Shoe& Own)
         Outline(G, ClosedCurve({{-14, 78}, {-6, 86}, {104, 86}, {108, 82}, {0, 80}, {-10, 74}}, .3),
                 Own.Tint2, Dark(Own.Tint2, .5), 1.5);
     }
-    if (Text(Own.R, "w") == "spike") {
-        Outline(G, Rounded(8, 71, 84, 6, 2), "#f0f0f0", "#555", 1.2);
-        for (const double X : {16, 30, 44, 64, 76, 88})
-            Outline(G, Polygon({{X - 4, 77}, {X + 4, 77}, {X, 88}}), "#6a7480", "#222", 1);
-    }
 }
 
 static void DrawSlipper(QPainter& G, const Shoe& Own)
@@ -398,14 +352,6 @@ static void DrawSlipper(QPainter& G, const Shoe& Own)
     QPainterPath Path = ClosedCurve({{4, 82}, {6, 62}, {22, 50}, {44, 48}, {54, 56}, {58, 82}}, .6);
     Outline(G, Path, Linear(0, 48, 0, 82, {Light(Own.Tint, .3), Own.Tint, Dark(Own.Tint, .1)}),
             Own.Edge, 1.8);
-    if (Has(Own.R, "pom")) {
-        for (int I = 0; I < 8; ++I) {
-            const double A = I * .8;
-            Outline(G, Circle(30 + 9 * std::cos(A), 52 + 9 * std::sin(A), 6), Own.Tint2,
-                    Dark(Own.Tint2, .2), .8);
-        }
-        Fill(G, Circle(30, 52, 8), Own.Tint2);
-    }
     if (Has(Own.R, "bunny")) {
         for (const auto& [X, A] : Table<double, double>{{22, -16}, {32, 10}}) {
             Outline(G, Ellipse(X, 36, 5, 15, A), Own.Tint, Own.Edge, 1.4);
@@ -521,86 +467,52 @@ static void DrawFin(QPainter& G, const Shoe& Own)
     Outline(G, ClosedCurve({{62, 60}, {74, 40}, {92, 44}, {94, 60}}, .5), "#2a2e34", "#000", 1.4);
 }
 
-static void DrawHorseshoe(QPainter& G, const Shoe& Own)
-{
-    QPainterPath Path;
-    const QPainterPath O = ClosedCurve({{20, 94},
-                                        {12, 60},
-                                        {16, 28},
-                                        {50, 8},
-                                        {84, 28},
-                                        {88, 60},
-                                        {80, 94},
-                                        {64, 94},
-                                        {70, 60},
-                                        {66, 36},
-                                        {50, 28},
-                                        {34, 36},
-                                        {30, 60},
-                                        {36, 94}},
-                                       .6);
-    Outline(G, O, Linear(10, 0, 90, 0, {Light(Own.Tint, .4), Own.Tint, Dark(Own.Tint, .25)}),
-            Own.Edge, 2);
-    for (const auto& [X, Y] : Table<double, double>{
-             {22, 78}, {20, 60}, {22, 42}, {34, 26}, {66, 26}, {78, 42}, {80, 60}, {78, 78}})
-        Fill(G, Rounded(X - 2, Y - 3, 4, 6, 1), "#1a1e24");
-}
-
-static void DrawPrints(QPainter& G, const Shoe& Own)
-{
-    for (const auto& [Dx, Dy, R, F] :
-         Table<double, double, double, double>{{26, 58, -12, 1}, {70, 40, 12, -1}}) {
-        G.save();
-        G.translate(Dx, Dy);
-        G.rotate(R);
-        G.scale(F, 1);
-        Outline(G,
-                ClosedCurve({{-9, 36},
-                             {-12, 14},
-                             {-15, -10},
-                             {-8, -24},
-                             {6, -22},
-                             {12, -8},
-                             {8, 14},
-                             {6, 34},
-                             {-2, 40}}),
-                Own.Tint, Own.Edge, 1.4);
-        for (const auto& [X, Y, Rr] : Table<double, double, double>{
-                 {-12, -31, 3.4}, {-5, -35, 3.8}, {3, -34, 4}, {10, -29, 3.8}, {14, -22, 3.2}})
-            Outline(G, Circle(X, Y, Rr), Own.Tint, Own.Edge, 1.1);
-        G.restore();
-    }
-}
-
+// An emoji with the dark edge that all shoes have.
 static void DrawEmoji(QPainter& G, const Shoe& Own)
 {
-    DrawFitted(G, EmojiImage(Text(Own.R, "cp")), QRectF(2, 2, 96, 96));
+    const QImage Picture = EmojiImage(Text(Own.R, "cp"));
+    const QImage Edge = Tinted(Picture, Own.Edge);
+    const QRectF Room(2, 2, 96, 96);
+    for (int I = 0; I < 12; ++I)
+        DrawFitted(G, Edge,
+                   Room.translated(1.6 * std::cos(I * M_PI / 6), 1.6 * std::sin(I * M_PI / 6)));
+    DrawFitted(G, Picture, Room);
 }
 
-static constexpr FigureRow<const Shoe> Figures[] = {
-    {"sneaker", DrawSneaker}, {"hitop", DrawHitop},   {"pump", DrawPump},
-    {"wedge", DrawWedge},     {"sandal", DrawSandal}, {"flip", DrawFlip},
-    {"clog", DrawClog},       {"loafer", DrawLoafer}, {"brogue", DrawBrogue},
-    {"boot", DrawBoot},       {"skate", DrawSkate},   {"slipper", DrawSlipper},
-    {"ballet", DrawBallet},   {"geta", DrawGeta},     {"moc", DrawMoc},
-    {"elf", DrawElf},         {"fin", DrawFin},       {"horseshoe", DrawHorseshoe},
-    {"prints", DrawPrints},   {"emoji", DrawEmoji},
+struct ShoeRow {
+    const char* Name;
+    void (*Draw)(QPainter& G, const Shoe& Own);
+    double Tilt; // low shoes stand on their toes, so that they fill the tile
 };
 
-static void Draw(QPainter& G, const Shoe& Own)
-{
-    DrawFigure(G, Own, Figures, Own.Kind, Own.R);
-}
+static constexpr ShoeRow Shoes[] = {
+    {"sneaker", DrawSneaker, -24}, {"hitop", DrawHitop, -8},  {"pump", DrawPump, -14},
+    {"flip", DrawFlip, -22},       {"clog", DrawClog, -24},   {"loafer", DrawLoafer, -26},
+    {"brogue", DrawBrogue, -24},   {"boot", DrawBoot, -8},    {"skate", DrawSkate, -8},
+    {"slipper", DrawSlipper, -20}, {"ballet", DrawBallet, 0}, {"geta", DrawGeta, -24},
+    {"moc", DrawMoc, -24},         {"elf", DrawElf, -12},     {"fin", DrawFin, -24},
+    {"emoji", DrawEmoji, 0},
+};
 
 void DrawShoe(QPainter& P, const Recipe& R)
 {
-    const QString Kind = Text(R, "k");
-    const QColor Tint = Colour(R, "c", "#d8281c");
-    const QColor Tint2 = Colour(R, "c2", "#ffffff");
-    const QColor SoleTint = Colour(R, "so", "#ffffff");
-    const double Heel = Number(R, "heel", 0);
-    const QColor Edge = Tint.lightness() < 225 ? Dark(Tint, .5) : QColor("#8a8478");
-    const Shoe Own{R, Kind, Tint, Tint2, SoleTint, Heel, Edge};
-    const auto Drawing = [&](QPainter& G) { Draw(G, Own); };
-    DrawFittedDraft(P, Drawing, 1.2);
+    const QColor Tint = Colour(R, "c", "#6a2a14");
+    const Shoe Own{R,
+                   Tint,
+                   Colour(R, "c2", "#ffffff"),
+                   Colour(R, "so", "#ffffff"),
+                   Number(R, "heel", 0),
+                   Tint.lightness() < 225 ? Dark(Tint, .5) : QColor("#8a8478")};
+    for (const ShoeRow& Row : Shoes)
+        if (Text(R, "k") == Row.Name)
+            return DrawFittedDraft(
+                P,
+                [&](QPainter& G) {
+                    G.translate(50, 50);
+                    G.rotate(Row.Tilt);
+                    G.translate(-50, -50);
+                    Row.Draw(G, Own);
+                },
+                1.25);
+    FatalError(R.Place + ": no shoe is like " + Quoted(Text(R, "k")));
 }
