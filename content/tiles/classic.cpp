@@ -125,9 +125,9 @@ static void DrawStick(QPainter& G, const Mark& M, double Width)
 static void DrawCharacter(QPainter& G, int Value)
 {
     static const char32_t Numbers[] = U"一二三四五六七八九";
-    const QRectF Above = Value > 1 ? QRectF(18, 0, 64, 46) : QRectF(18, 14, 64, 16);
+    const QRectF Above = Value > 1 ? QRectF(10, -2, 80, 55) : QRectF(10, 14, 80, 20);
     Fill(G, Fitted(GlyphPath(FontFile::Brush, Numbers[Value - 1]), Above), "#1c2f8a");
-    Fill(G, Fitted(GlyphPath(FontFile::Brush, U'萬'), QRectF(16, 49, 68, 50)), Red);
+    Fill(G, Fitted(GlyphPath(FontFile::Brush, U'萬'), QRectF(24, 57, 52, 42)), Red);
 }
 
 static void DrawWhiteDragon(QPainter& G)

@@ -43,7 +43,7 @@ static void DrawSplat(QPainter& G, const ColourSample& Own)
     QPainterPath Path = ClosedCurve(Pts, .8);
     Outline(G, Path, Radial(40, 36, 60, {Light(Own.Tint, .35), Own.Tint, Dark(Own.Tint, .12)}),
             Own.Edge, 1.8);
-    DrawMark(G, Own, 50, 50, 15);
+    DrawMark(G, Own, 50, 50, 18);
 }
 
 static void DrawTube(QPainter& G, const ColourSample& Own)
@@ -51,11 +51,11 @@ static void DrawTube(QPainter& G, const ColourSample& Own)
     G.translate(50, 50);
     G.rotate(-38);
     G.translate(-50, -50);
-    Outline(G, Polygon({{28, 4}, {72, 4}, {66, 70}, {34, 70}}),
+    Outline(G, Polygon({{24, 4}, {76, 4}, {69, 70}, {31, 70}}),
             Linear(30, 0, 70, 0, {"#c8d0d8", "#ffffff", "#aab4be"}), "#5a6470", 1.6);
-    Outline(G, Rounded(26, 0, 48, 7, 2), "#b8c0c8", "#5a6470", 1.3);
-    Outline(G, Polygon({{30.5, 22}, {69.5, 22}, {67, 58}, {33, 58}}), Own.Tint, Own.Edge, 1.3);
-    DrawMark(G, Own, 50, 40, 11);
+    Outline(G, Rounded(22, 0, 56, 7, 2), "#b8c0c8", "#5a6470", 1.3);
+    Outline(G, Polygon({{25.5, 16}, {74.5, 16}, {70, 62}, {30, 62}}), Own.Tint, Own.Edge, 1.3);
+    DrawMark(G, Own, 50, 39, 15);
     Outline(G, Rounded(42, 70, 16, 8, 1), "#3a3f46", "#111", 1.2);
     QPainterPath Path = ClosedCurve({{46, 78},
                                      {54, 78},
@@ -74,19 +74,17 @@ static void DrawCrayon(QPainter& G, const ColourSample& Own)
     G.translate(50, 50);
     G.rotate(45);
     G.translate(-50, -50);
-    Outline(G, Polygon({{38, 20}, {45, -6}, {55, -6}, {62, 20}}),
+    Outline(G, Polygon({{35, 20}, {44, -6}, {56, -6}, {65, 20}}),
             Linear(38, 0, 62, 0, {Light(Own.Tint, .3), Own.Tint, Dark(Own.Tint, .2)}), Own.Edge,
             1.6);
-    Outline(G, Rounded(36, 18, 28, 84, 3),
+    Outline(G, Rounded(33, 18, 34, 84, 3),
             Linear(36, 0, 64, 0, {Light(Own.Tint, .35), Own.Tint, Dark(Own.Tint, .25)}), Own.Edge,
             1.6);
     for (const double Y : {30, 36, 86, 92}) {
-        StrokeLine(G, 37, Y, 63, Y,
+        StrokeLine(G, 34, Y, 66, Y,
                    Own.Tint.lightness() > 60 ? QColor("#1a1a1a") : QColor("#ffffff"), 2.4);
     }
-    Outline(G, Ellipse(50, 61, 11, 16),
-            Own.Tint.lightness() < 200 ? Light(Own.Tint, .55) : QColor("#fff6c0"), Own.Edge, 1.3);
-    DrawMark(G, Own, 50, 61, 8);
+    DrawMark(G, Own, 50, 61, 13);
 }
 
 static void DrawGem(QPainter& G, const ColourSample& Own)
@@ -104,7 +102,7 @@ static void DrawGem(QPainter& G, const ColourSample& Own)
                                {{{62, 30}, {80, 30}, {50, 90}}, -.25}})
         Outline(G, Polygon(Pts), F > 0 ? Light(Own.Tint, F) : Dark(Own.Tint, -F), Own.Edge, 1.1);
     Fill(G, Polygon({{42, 18}, {50, 18}, {44, 26}, {40, 26}}), Alpha("#ffffff", .7));
-    DrawMark(G, Own, 50, 44, 11);
+    DrawMark(G, Own, 50, 45, 14);
 }
 
 static constexpr FigureRow<const ColourSample> Figures[] = {

@@ -117,10 +117,10 @@ static void DrawSun(QPainter& G, Cosmos& Own)
 
 static void DrawSpiral(QPainter& G, Cosmos& Own)
 {
-    constexpr int Arms = 2, Stars = 170;
+    constexpr int Arms = 2, Stars = 240;
     G.translate(50, 50);
     G.rotate(-28);
-    G.scale(1, .62);
+    G.scale(1.06, .8);
     for (int Arm = 0; Arm < Arms; ++Arm)
         for (int I = 0; I < Stars; ++I) {
             const double T = static_cast<double>(I) / Stars;
@@ -128,7 +128,7 @@ static void DrawSpiral(QPainter& G, Cosmos& Own)
             const double X = Far * std::cos(A) + Gauss(Own.Chance, 0, 2.6);
             const double Y = Far * std::sin(A) + Gauss(Own.Chance, 0, 2.6);
             const QColor Shine = Mix("#7ab0ff", "#ffffff", Uniform(Own.Chance) * .7);
-            Fill(G, Circle(X, Y, 1.6 * (1.2 - T)), Alpha(Shine, .75 * (1 - T * .6)));
+            Fill(G, Circle(X, Y, 2.3 * (1.2 - T)), Alpha(Shine, .85 * (1 - T * .5)));
         }
     Fill(G, Circle(0, 0, 20), Radial(0, 0, 20, {"#ffffff", "#ffe8a0", Alpha("#ffc860", 0)}));
 }
@@ -137,11 +137,11 @@ static void DrawEdgeOn(QPainter& G, Cosmos&)
 {
     G.translate(50, 50);
     G.rotate(24);
-    Fill(G, Ellipse(0, 0, 46, 6),
+    Fill(G, Ellipse(0, 0, 50, 11),
          Linear(-46, 0, 46, 0,
                 {Alpha("#ffb0d0", 0), "#ffb0d0", "#fff6e0", "#ffb0d0", Alpha("#ffb0d0", 0)}));
-    Fill(G, Ellipse(0, 0, 15, 11), Radial(0, 0, 15, {"#ffffff", "#ffd890", Alpha("#ffb060", 0)}));
-    StrokeLine(G, -40, 0, 40, 0, "#2a0a1a", 1.8);
+    Fill(G, Ellipse(0, 0, 21, 17), Radial(0, 0, 21, {"#ffffff", "#ffd890", Alpha("#ffb060", 0)}));
+    StrokeLine(G, -42, 0, 42, 0, "#2a0a1a", 3);
 }
 
 static void DrawNebula(QPainter& G, Cosmos& Own)

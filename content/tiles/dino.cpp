@@ -200,11 +200,17 @@ struct Dino {
     QColor Edge;
 };
 
+// The plans are slender; at the size of a tile more flesh reads better.
+static Bones Stout(const Bones& List)
+{
+    return Mapped(List, [](double X, double Y, double W) { return SpinePoint{X, Y, W * 1.14}; });
+}
+
 static void DrawLimb(QPainter& G, const Dino& Own, const Bones& Pts, bool Far)
 {
-    const QPainterPath Path = Tube(Pts);
+    const QPainterPath Path = Tube(Stout(Pts));
     const QColor Tone = Far ? Dark(Own.Tint, .24) : Own.Tint;
-    Outline(G, Path, Tone, Own.Edge, 1.5);
+    Outline(G, Path, Tone, Own.Edge, 1.9);
 }
 
 static void DrawSail(QPainter& G, const Dino& Own, const Bones& Spine)
@@ -425,7 +431,7 @@ static void DrawBody(QPainter& G, const Dino& Own, const BodyPlan& Plan)
     for (const Limb& Leg : Plan.Legs)
         if (Leg.Far) DrawLimb(G, Own, Leg.Spine, true);
     Bones Spine;
-    const QPainterPath Path = Tube(Plan.Spine, &Spine);
+    const QPainterPath Path = Tube(Stout(Plan.Spine), &Spine);
     DrawFeatures(G, Own, Spine, false);
     Outline(G, Path,
             Linear(0, 10, 0, 80, {Light(Own.Tint, .18), Own.Tint, Mix(Own.Tint, Own.Tint2, .25)}),
@@ -439,7 +445,7 @@ static void DrawBody(QPainter& G, const Dino& Own, const BodyPlan& Plan)
     Fill(G, ClosedCurve(Joined(Upper, Reversed(Lower)), .6), Alpha(Own.Tint2, .9)); // the belly
     DrawPattern(G, Own, Spine);
     G.restore();
-    Stroke(G, Path, Own.Edge, 1.7);
+    Stroke(G, Path, Own.Edge, 2.1);
     for (const Limb& Leg : Plan.Legs) {
         if (Leg.Far) continue;
         DrawLimb(G, Own, Leg.Spine, false);
@@ -457,8 +463,8 @@ static void DrawBody(QPainter& G, const Dino& Own, const BodyPlan& Plan)
     }
     DrawFeatures(G, Own, Spine, true);
     DrawJaw(G, Own, Plan);
-    Fill(G, Circle(Plan.Eye.x(), Plan.Eye.y(), 3), Colour(Own.R, "eye", "#ffe86a"));
-    Fill(G, Circle(Plan.Eye.x() + .4, Plan.Eye.y(), 1.7), "#101010");
+    Fill(G, Circle(Plan.Eye.x(), Plan.Eye.y(), 3.6), "#ffe86a");
+    Fill(G, Circle(Plan.Eye.x() + .4, Plan.Eye.y(), 2), "#101010");
 }
 
 static void DrawPtero(QPainter& G, const Dino& Own)

@@ -23,19 +23,30 @@ constexpr KindRow Kinds[] = {
     {"tree", DrawTree},
 };
 
-constexpr const char* PictureKinds[] = {"emoji",   "clipart", "drawing", "flag",
-                                        "symbola", "maya",    "aegyptus"};
+static bool IsPictureKind(const QString& Kind)
+{
+    static const QStringList Names = {"emoji", "drawing", "flag", "symbola", "maya", "aegyptus"};
+    return Names.contains(Kind);
+}
+
+static DrawKind KindOf(const Face& F)
+{
+    for (const KindRow& Kind : Kinds)
+        if (F.Kind == Kind.Name) return Kind.Draw;
+    FatalError(F.Keys.Place + ": no kind of face is called " + F.Kind);
+    return nullptr;
+}
 
 void DrawFace(QPainter& P, const Face& F)
 {
-    for (const char* Name : PictureKinds)
-        if (F.Kind == Name) return DrawPictureFace(P, F);
-    for (const KindRow& Kind : Kinds)
-        if (F.Kind == Kind.Name) {
-            P.save();
-            Kind.Draw(P, F.Keys);
-            P.restore();
-            return;
-        }
-    FatalError(F.Keys.Place + ": no kind of face is called " + F.Kind);
+    P.save();
+    if (Has(F.Keys, "flip")) { // right becomes left
+        P.translate(100, 0);
+        P.scale(-1, 1);
+    }
+    if (IsPictureKind(F.Kind))
+        DrawPictureFace(P, F);
+    else
+        KindOf(F)(P, F.Keys);
+    P.restore();
 }

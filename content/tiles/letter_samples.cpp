@@ -5,10 +5,8 @@
 
 struct LetterSample {
     const Recipe& R;
-    QString Ch;
     QColor Tint;
     QPainterPath Path;
-    QRectF B;
 };
 
 static void Draw(QPainter& G, const LetterSample& Own)
@@ -19,6 +17,7 @@ static void Draw(QPainter& G, const LetterSample& Own)
                 Dark(Own.Tint, .5), 2);
         Stroke(G, Circle(50, 50, 42.5), "#ffffff", 2.4);
         const QPainterPath Z = Fitted(Own.Path, QRectF(26, 20, 48, 60));
+        if (Has(Own.R, "ink")) return Fill(G, Z, Colour(Own.R, "ink"));
         Fill(G, Z.translated(1.6, 1.8), Dark(Own.Tint, .5));
         Fill(G, Z, "#ffffff");
         return;
@@ -35,12 +34,11 @@ void DrawLetterSample(QPainter& P, const Recipe& R)
 {
     const QString Ch = Text(R, "ch");
     const QColor Tint = Colour(R, "c", "#d8281c");
-    QPainterPath Path =
-        TextPath(Text(R, "font") == "serif" ? FontFile::SerifBold : FontFile::SansBold, Ch, 100);
+    QPainterPath Path = TextPath(FontFile::SansBold, Ch, 100);
     const QRectF B = Path.boundingRect();
     Path =
         B.width() > 30 ? Fitted(Path, QRectF(13, 9, 72, 80)) : Fitted(Path, QRectF(30, 9, 40, 80));
-    const LetterSample Own{R, Ch, Tint, Path, B};
+    const LetterSample Own{R, Tint, Path};
     const auto Drawing = [&](QPainter& G) { Draw(G, Own); };
     DrawFittedDraft(P, Drawing);
 }

@@ -91,7 +91,8 @@ void DrawShadowed(QPainter& P, const Draft& Drawing, double Opacity)
     Drawing(G);
     G.end();
     const QImage Shadow = SoftShadow(Layer, std::max(1, static_cast<int>(1.5 * Scale)), Opacity);
-    P.drawImage(QRectF(1.2, 2, Size / Scale, Size / Scale), Shadow);
+    // The light comes from the upper right, also on a face that is turned about.
+    P.drawImage(QRectF(T.m11() < 0 ? 1.2 : -1.2, 2, Size / Scale, Size / Scale), Shadow);
     P.drawImage(QRectF(0, 0, Size / Scale, Size / Scale), Layer);
 }
 

@@ -1,4 +1,4 @@
-// picture_kinds.cpp: faces made of a glyph, an emoji, clip art or a flag
+// picture_kinds.cpp: faces made of a glyph, an emoji, a drawing or a flag
 
 #include "tiles.h"
 
@@ -6,7 +6,6 @@
 
 #include <cmath>
 
-static const char* const ClipArtFolder = "/usr/share/openclipart/svg/";
 static const char* const FlagFolder = "/usr/share/iso-flags-png-320x240/";
 static const char* const RoundFlagFolder = "/usr/share/iso-flags-svg/";
 static const char* const DrawingsFolder = SETS_DIR "/../drawings/";
@@ -57,7 +56,6 @@ static QImage SourceImage(const Face& F)
     if (Source.isEmpty()) FatalError(F.Keys.Place + ": which picture?");
     if (F.Kind == "emoji") return EmojiImage(Source);
     if (F.Kind == "drawing") return OwnDrawing(Source);
-    if (F.Kind == "clipart") return PictureFile(ClipArtFolder + Source);
     return PictureFile((Source.endsWith(".svg") ? RoundFlagFolder : FlagFolder) + Source);
 }
 
@@ -119,7 +117,6 @@ static QImage Prepared(QImage Image, const Recipe& R)
         Image = CropToInk(Image.copy(0, 0, Image.width(), Kept));
     }
     if (Has(R, "metal")) Image = Relief(Image, MetalStops(Text(R, "metal"), R));
-    if (Has(R, "flip")) Image = Image.mirrored(true, false);
     if (Has(R, "rot"))
         Image = CropToInk(
             Image.transformed(QTransform().rotate(Number(R, "rot")), Qt::SmoothTransformation));

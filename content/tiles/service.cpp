@@ -47,9 +47,7 @@ static void DrawFhelmet(QPainter& G, const Service& Own)
     }
     Outline(G, Polygon({{36, 36}, {50, 28}, {64, 36}, {62, 62}, {50, 74}, {38, 62}}), "#ffd23a",
             "#7a5a0a", 1.8);
-    const QPainterPath Digits = TextPath(FontFile::SansBold, Text(Own.R, "t", "1"), 26);
-    const QRectF B = Digits.boundingRect();
-    Fill(G, Moved(Digits, 50 - B.center().x(), 61), QColor("#8a1a0a"));
+    Fill(G, Star(50, 50, 15), QColor("#8a1a0a"));
 }
 
 static void DrawCap(QPainter& G, const Service& Own)

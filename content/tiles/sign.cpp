@@ -51,6 +51,10 @@ static const PlateRow Plates[] = {
      {{Triangle, 51, "#ffffff"}, {Triangle, 50, "#d0141c"}, {Triangle, 39, "#ffffff"}},
      "#16161a",
      QRectF(26, 35, 48, 44)},
+    {"yellow",
+     {{Triangle, 51, "#ffffff"}, {Triangle, 50, "#d0141c"}, {Triangle, 39, "#ffd21c"}},
+     "#16161a",
+     QRectF(26, 35, 48, 44)},
     {"hazard",
      {{Diamond, 46, "#ffffff"}, {Diamond, 45, "#d0141c"}, {Diamond, 37, "#ffffff"}},
      "#16161a",
@@ -118,7 +122,6 @@ static QImage PictureOf(const Recipe& R, const char* InkTone)
     else
         Picture = EmojiImage(Text(R, "emoji"));
     if (!Has(R, "own")) Picture = Tinted(Picture, InkTone);
-    if (Has(R, "flip")) Picture = Picture.mirrored(true, false);
     return Has(R, "turn") ? Picture.transformed(QTransform().rotate(Number(R, "turn"))) : Picture;
 }
 
