@@ -87,7 +87,7 @@ Field Levelled(const Field& F)
 
 void Light(Picture& P, const Field& Relief, float Gloss, float Shine)
 {
-    constexpr float LX = -0.48F, LY = -0.56F, LZ = 0.675F; // towards the light, length 1
+    constexpr float LX = 0.48F, LY = -0.56F, LZ = 0.675F; // towards the light, length 1
     // Half-way between the light and the eye, which looks straight down.
     const float HalfLength = std::sqrt(LX * LX + LY * LY + (LZ + 1) * (LZ + 1));
     const float HX = LX / HalfLength, HY = LY / HalfLength, HZ = (LZ + 1) / HalfLength;

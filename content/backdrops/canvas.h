@@ -54,8 +54,8 @@ Field Blurred(const Field& F, int Radius);
 // The field stretched so that its 1st and 99th percentiles become 0 and 1.
 Field Levelled(const Field& F);
 
-// Light from the upper left on a relief whose heights are in pixels. Gloss is the strength of the
-// highlight: 0 dull, 1 wet; Shine its sharpness.
+// Light from the upper right, as on tiles and panels, on a relief whose heights are in pixels.
+// Gloss is the strength of the highlight: 0 dull, 1 wet; Shine its sharpness.
 void Light(Picture& P, const Field& Relief, float Gloss = 0, float Shine = 24);
 
 // Darkens what lies lower than its surroundings within Radius, by Strength per pixel of depth.

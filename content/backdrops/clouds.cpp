@@ -16,7 +16,7 @@ Picture DrawSky(const Recipe& R)
     };
     return PictureOf([&](float X, float Y) {
         const float Here = Density(X, Y);
-        const float Sunward = Density(X - 16, Y - 22);
+        const float Sunward = Density(X + 16, Y - 22);
         const float Cover = Step(1 - Share, 1.28F - Share, Here);
         const float Lit = std::clamp(0.62F + 3.2F * (Here - Sunward), 0.0F, 1.0F);
         const Colour Air = Shade(Sky, Y / Height + 0.08F * Fractal(X, Y, 400, 2, Seed + 2));
@@ -58,7 +58,7 @@ Picture DrawVelvet(const Recipe& R)
         const float SX = (Fold(X + 4, Y) - Here) * Scale * 0.09F;
         const float SY = (Fold(X, Y + 4) - Here) * Scale * 0.09F;
         const float Side = std::sqrt(SX * SX + SY * SY) / std::sqrt(1 + SX * SX + SY * SY);
-        const float Towards = 0.5F * (SX + SY) / std::sqrt(1 + SX * SX + SY * SY);
+        const float Towards = 0.5F * (SY - SX) / std::sqrt(1 + SX * SX + SY * SY);
         const float Pile =
             0.6F * Fractal(X, Y, 3.5F, 2, Seed + 5) +
             0.4F * (HashUnit(static_cast<int>(X), static_cast<int>(Y), Seed + 6) - 0.5F);

@@ -28,7 +28,7 @@ template <class Function>
 void Stamp(Scene& S, Place At, float Turn, float HalfLong, float HalfWide, float Shadow,
            Function Look)
 {
-    constexpr float ShadowX = 2.5F, ShadowY = 3.5F, Blur = 5;
+    constexpr float ShadowX = -2.5F, ShadowY = 3.5F, Blur = 5;
     const float C = std::cos(Turn), N = std::sin(Turn);
     const float A = HalfLong + Blur + 4, B = HalfWide + Blur + 4;
     const float Tall = std::abs(A * N) + std::abs(B * C);

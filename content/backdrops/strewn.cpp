@@ -72,11 +72,11 @@ Picture DrawChips(const Recipe& R)
     const int Chips = Count(R, "chips", 2600);
     for (int I = 0; I < Chips; ++I) {
         const Place At{Throw(D, -30, Width + 30), Throw(D, -30, Height + 30)};
-        const float Long = Throw(D, 10, 46), Half = Throw(D, 4, 13), Turn = Throw(D, 0, Pi),
+        const float Long = Throw(D, 14, 62), Half = Throw(D, 5, 16), Turn = Throw(D, 0, Pi),
                     Tone = Throw(D, 0, 1);
         const float Slant = Throw(D, -0.5F, 0.5F), Tilt = Throw(D, -0.05F, 0.05F);
         const unsigned Own = Hash(I, 3, Seed);
-        Stamp(S, At, Turn, Long + 4, Half + 4, 0.20F, [&](float U, float V) {
+        Stamp(S, At, Turn, Long + 4, Half + 4, 0.30F, [&](float U, float V) {
             const float Ragged =
                 2.2F * Noise(V / 2.5F, 0.5F, Own) + 1.6F * Noise(U / 14, 7.5F, Own);
             const float Off = std::max(std::abs(V) - Half + 1.2F * Noise(U / 18, 3.5F, Own),

@@ -79,26 +79,30 @@ Picture DrawKaleidoscope(const Recipe& R)
     const Palette Glass = Colours(R, "ground");
     const float Mirrors = Number(R, "mirrors", 6), Scale = Number(R, "scale", 92);
     const float Wedge = 3.14159265F / Mirrors;
-    const auto Bit = [&](float X, float Y) {
-        const float DX = X - CentreX, DY = Y - CentreY;
-        const float Radius = std::hypot(DX, DY);
+    const auto Folded = [&](float X, float Y) {
+        const float DX = X - CentreX, DY = Y - CentreY, Radius = std::hypot(DX, DY);
         float Angle = std::atan2(DY, DX) + 0.26F;
         Angle = std::abs(Angle - 2 * Wedge * std::round(Angle / (2 * Wedge)));
         // A mirrored triangle: beyond the rim the picture folds back.
-        float U = Radius * std::cos(Angle), V = Radius * std::sin(Angle);
-        const float Rim = 330;
-        U = std::abs(U - 2 * Rim * std::round(U / (2 * Rim)));
-        const Place W = Warp(U + 900, V + 300, 130, 34, Seed, 2);
+        const float U = Radius * std::cos(Angle), V = Radius * std::sin(Angle), Rim = 330;
+        return Warp(std::abs(U - 2 * Rim * std::round(U / (2 * Rim))) + 900, V + 300, 130, 34, Seed,
+                    2);
+    };
+    const auto Bit = [&](float X, float Y) {
+        const Place W = Folded(X, Y);
         const Cell Piece = CellAt(W.X, W.Y, Scale, Seed + 1);
         const Cell Small = CellAt(W.X, W.Y, Scale * 0.45F, Seed + 2);
-        const float Tone = CellUnit(Piece, 1) * static_cast<float>(Glass.size() - 1) + 0.5F;
-        Colour C = Glass[static_cast<std::size_t>(Tone)];
-        const float Shine = 0.84F + 0.30F * (CellUnit(Small, 2) - 0.5F) - 0.35F * Piece.Near +
-                            0.25F * CellUnit(Piece, 3);
-        const float Lead = std::exp(-Piece.Border * Scale / 2.2F),
-                    Fine = 0.35F * std::exp(-Small.Border * Scale / 2.2F);
-        C = Scaled(C, Shine + 0.2F * Fractal(W.X, W.Y, 60, 3, Seed + 3));
-        return Mix(C, Colour{0.10F, 0.05F, 0.14F}, std::max(0.75F * Lead, Fine));
+        const std::size_t Tone = Piece.Id % Glass.size();
+        // Each piece is cut in facets, and light falls through it from one side.
+        const float Slant = 6.2832F * CellUnit(Piece, 3);
+        const float Through =
+            ((W.X - Piece.X) * std::cos(Slant) + (W.Y - Piece.Y) * std::sin(Slant)) / Scale;
+        const float Shine = 0.92F + 0.55F * Through + 0.42F * (CellUnit(Small, 2) - 0.5F);
+        const Colour C = Mix(Scaled(Glass[Tone], Shine), {1, 0.96F, 0.88F},
+                             0.16F * std::max(0.0F, Through) + 0.10F * CellUnit(Small, 5));
+        const float Lead = std::exp(-Piece.Border * Scale / 1.3F),
+                    Fine = 0.22F * std::exp(-Small.Border * Scale / 1.6F);
+        return Mix(C, Colour{0.10F, 0.05F, 0.12F}, std::max(0.8F * Lead, Fine));
     };
     // Four samples a pixel: the mirrored edges are sharp.
     return PictureOf([&](float X, float Y) {
