@@ -134,7 +134,7 @@ Picture DrawSilk(const Recipe& R)
     const Palette Ground = Colours(R, "ground");
     const float Scale = Number(R, "scale", 260), Depth = Number(R, "relief", 60);
     const float Slub = Number(R, "slub", 0.5F), Figure = Number(R, "figure", 0);
-    const float Gloss = Number(R, "gloss", 0.3F), Turn = Number(R, "turn", 0.5F);
+    const float Gloss = Number(R, "gloss", 0.3F), Turn = Number(R, "turn", -0.5F);
     Field Relief(Width * Height);
     Picture P(Width * Height);
     for (std::size_t I = 0; I < P.size(); ++I) {
