@@ -32,6 +32,7 @@ inline constexpr const char* IvoryDark = "#eee3c6";  // the tile's face, lower l
 inline constexpr const char* JadeEdge = "#3f8f63";   // the jade half of a tile, left wall
 inline constexpr const char* JadeFoot = "#27694a";   // the same, bottom wall
 inline constexpr const char* Outline1 = "#5b4a28";   // dark brown edge round ivory
+inline constexpr const char* TileRim = "#2a2010";    // the line round a whole tile
 inline constexpr const char* LitFrame = "#ff9d00";   // a lit tile or button
 inline constexpr const char* MarkFrame = "#1467d6";  // a marked tile
 inline constexpr const char* VowelRed = "#b8281c";   // vowels of the letter tiles

@@ -9,9 +9,9 @@ const BodyTint JadeBody = {"jade",    "#eefaf0", "#bfe0c8", "#8fc0a0",
 const BodyTint SlateBody = {"slate",   "#f1f4f8", "#c9d1dc", "#a3adbb",
                             "#838e9e", "#4a5a72", "#333f54"};
 const BodyTint WoodBody = {"wood",    "#fbe9c6", "#e0b87c", "#c4935a",
-                           "#a2743f", "#7a4a26", "#553116"};
+                           "#a2743f", "#5a3016", "#3a1c0a"};
 const BodyTint SandBody = {"sand",    "#fdf3d8", "#ead0a0", "#d3b27c",
-                           "#b6925a", "#a8703a", "#7d4f24"};
+                           "#b6925a", "#7c4020", "#552a14"};
 
 const BodyTint* FindBodyTint(const QString& Name)
 {
@@ -92,7 +92,7 @@ void DrawTileBody(QPainter& P, TileState State, const BodyTint& Tint)
     P.drawLine(QPointF(3.4, 3.6), QPointF(3.4, 56.6));
     P.drawLine(QPointF(3.4, 56.6), QPointF(56.4, 56.6));
     P.setClipping(false);
-    P.strokePath(Whole, Line(Alpha("#2a2010", .75), .8));
+    P.strokePath(Whole, Line(Alpha(TileRim, .8), .9));
 
     const QPainterPath Face = Rounded(7.4, .4, 52.2, 52.2, 5.2);
     P.fillPath(Face,

@@ -2,6 +2,7 @@
 
 #include "tiles.h"
 
+#include <algorithm>
 #include <cmath>
 
 constexpr double Finer = 4; // drafts are drawn this much finer than their units
@@ -119,4 +120,21 @@ void DrawFittedDraft(QPainter& P, const Draft& Drawing, double Stretch, const QR
     const QRectF Place(Room.center().x() - W / 2, Room.center().y() - H / 2, W, H);
     const QImage Shape = Scaled(Cut, static_cast<int>(W * Finer), static_cast<int>(H * Finer));
     DrawShadowed(P, [&](QPainter& S) { DrawFitted(S, Shape, Place); });
+}
+
+void DrawHalo(QPainter& G, const QImage& Picture, const QColor& Tint, const QRectF& Room,
+              double Width)
+{
+    // What shines through, like steam or spray, has no edge.
+    QImage Shape = Tinted(Picture, Tint);
+    for (int Y = 0; Y < Shape.height(); ++Y) {
+        QRgb* Row = reinterpret_cast<QRgb*>(Shape.scanLine(Y));
+        std::replace_if(
+            Row, Row + Shape.width(), [](QRgb C) { return qAlpha(C) < 200; }, 0);
+    }
+    const QRectF Inner = Room.adjusted(Width, Width, -Width, -Width);
+    for (int I = 0; I < 12; ++I)
+        DrawFitted(
+            G, Shape,
+            Inner.translated(Width * std::cos(I * M_PI / 6), Width * std::sin(I * M_PI / 6)));
 }

@@ -136,8 +136,12 @@ void DrawPictureFace(QPainter& P, const Face& F)
     if (F.Kind == "aegyptus") return DrawGlyphFace(P, FontFile::Aegyptus, R, Room);
 
     const QImage Image = Prepared(SourceImage(F), R);
+    const bool OnBody = !Has(R, "frame"); // pale pictures need an edge on the pale tile
     P.save();
     if (Text(R, "frame") == "portrait") P.setClipPath(Ellipse(50, 50, 42, 43));
-    DrawShadowed(P, [&](QPainter& G) { DrawFitted(G, Image, Room); });
+    DrawShadowed(P, [&](QPainter& G) {
+        if (OnBody) DrawHalo(G, Image, "#54503c", Room);
+        DrawFitted(G, Image, OnBody ? Room.adjusted(1.2, 1.2, -1.2, -1.2) : Room);
+    });
     P.restore();
 }

@@ -313,11 +313,8 @@ static void DrawCharge(QPainter& G, const Recipe& R, const QString& Word, const 
         const QImage Picture = EmojiImage(Sign);
         const bool Relieved = Kind == "relief";
         // A dark rim round metal, a light one round colours: the charge stands off the field.
-        const QImage Halo = Tinted(Picture, Relieved ? Dark(Metal[0], .35) : QColor("#ffffff"));
-        for (int I = 0; I < 12; ++I) {
-            const double A = I * M_PI / 6, Far = 1.9;
-            DrawFitted(G, Halo, Room.translated(Far * std::cos(A), Far * std::sin(A)));
-        }
+        DrawHalo(G, Picture, Relieved ? Dark(Metal[0], .35) : QColor("#ffffff"),
+                 Room.adjusted(-1.9, -1.9, 1.9, 1.9), 1.9);
         DrawFitted(G, Relieved ? Relief(Picture, Metal) : Picture, Room);
         return;
     }

@@ -471,12 +471,8 @@ static void DrawFin(QPainter& G, const Shoe& Own)
 static void DrawEmoji(QPainter& G, const Shoe& Own)
 {
     const QImage Picture = EmojiImage(Text(Own.R, "cp"));
-    const QImage Edge = Tinted(Picture, Own.Edge);
-    const QRectF Room(2, 2, 96, 96);
-    for (int I = 0; I < 12; ++I)
-        DrawFitted(G, Edge,
-                   Room.translated(1.6 * std::cos(I * M_PI / 6), 1.6 * std::sin(I * M_PI / 6)));
-    DrawFitted(G, Picture, Room);
+    DrawHalo(G, Picture, Own.Edge, QRectF(2, 2, 96, 96), 1.6);
+    DrawFitted(G, Picture, QRectF(3.6, 3.6, 92.8, 92.8));
 }
 
 struct ShoeRow {

@@ -55,6 +55,10 @@ void Outline(QPainter& G, const QPainterPath& Path, const Paint& With, double Wi
 void Outline(QPainter& G, const QPainterPath& Path, const Paint& With, const QColor& Edge,
              double Width = 1.6);
 QColor EdgeOf(const QColor& Fill, double T = .45, const char* OfWhite = "#8a8478");
+// The shape of a picture in one colour, Width larger on all sides than the picture that is fitted
+// into Room less Width.
+void DrawHalo(QPainter& G, const QImage& Picture, const QColor& Tint, const QRectF& Room,
+              double Width = 1.2);
 using Draft = std::function<void(QPainter&)>;
 inline const QRectF WholeFace(1, 1, 98, 98);
 // A drawing inside 0..100 with a soft shadow beneath.

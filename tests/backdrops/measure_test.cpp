@@ -1,5 +1,7 @@
 // Do tiles stand out from every backdrop? Measured on the made files, in CIE Lab: L runs from 0
 // black to 100 white, a distance of 2 is just seen side by side.
+#include "art.h"
+#include "lab.h"
 #include "recipe.h"
 
 #include <QFileInfo>
@@ -14,42 +16,10 @@
 namespace
 {
 
-constexpr int LastBackdrop = 72, TileSize = 60;
+constexpr int LastBackdrop = 72;
 constexpr int WindowStep = 20; // from one measured window to the next
 
-struct Lab {
-    double L, A, B;
-};
-
-// What a tile shows at its edges: the face, the walls to the left and below, the outline.
-constexpr QRgb Face = 0xffeee3c6, LeftWall = 0xff3f8f63, LowerWall = 0xff27694a,
-               Outline = 0xff5b4a28;
-
-Lab LabOf(QRgb C)
-{
-    static const auto Linear = [] {
-        std::array<double, 256> Table{};
-        for (int I = 0; I < 256; ++I) {
-            const double V = I / 255.0;
-            Table[static_cast<std::size_t>(I)] =
-                V <= 0.04045 ? V / 12.92 : std::pow((V + 0.055) / 1.055, 2.4);
-        }
-        return Table;
-    }();
-    const auto Part = [](int V) { return Linear[static_cast<std::size_t>(V)]; };
-    const double R = Part(qRed(C)), G = Part(qGreen(C)), B = Part(qBlue(C));
-    const auto Root = [](double T) { return T > 0.008856 ? std::cbrt(T) : 7.787 * T + 16.0 / 116; };
-    const double X = Root((0.4124 * R + 0.3576 * G + 0.1805 * B) / 0.9505);
-    const double Y = Root(0.2126 * R + 0.7152 * G + 0.0722 * B);
-    const double Z = Root((0.0193 * R + 0.1192 * G + 0.9505 * B) / 1.089);
-    return {116 * Y - 16, 500 * (X - Y), 200 * (Y - Z)};
-}
-
-double Distance(const Lab& P, const Lab& Q)
-{
-    return std::sqrt((P.L - Q.L) * (P.L - Q.L) + (P.A - Q.A) * (P.A - Q.A) +
-                     (P.B - Q.B) * (P.B - Q.B));
-}
+const QRgb Face = QColor(IvoryBody.FaceDark).rgb();
 
 QString PathOf(int Number)
 {
@@ -145,10 +115,14 @@ double Percentile(std::vector<double> Values, double Share)
     return Values[static_cast<std::size_t>(Share * static_cast<double>(Values.size() - 1))];
 }
 
-// How far the better of the two colours at a tile's edge is from the ground.
-double EdgeDistance(const Lab& Ground, QRgb Inner)
+// How far the best of the colours at a tile's edge is from the ground: the rim and both halves of a
+// wall.
+double EdgeDistance(const Lab& Ground, std::initializer_list<const char*> Edge)
 {
-    return std::max(Distance(Ground, LabOf(Inner)), Distance(Ground, LabOf(Outline)));
+    double Best = 0;
+    for (const char* Name : Edge)
+        Best = std::max(Best, Distance(Ground, LabOf(QColor(Name).rgb())));
+    return Best;
 }
 
 } // namespace
@@ -178,15 +152,30 @@ TEST(Backdrops, ATilesFaceIsFarLighterThanTheGround)
     }
 }
 
-TEST(Backdrops, ATilesWallsStandOutFromTheGround)
+TEST(Backdrops, TheWallsOfEveryBodyStandOutFromTheGround)
 {
-    for (int I = 0; I <= LastBackdrop; ++I) {
-        double Least = 1e9;
-        for (const Window& W : Backdrop(I).Windows)
-            Least =
-                std::min({Least, EdgeDistance(W.Mean, LeftWall), EdgeDistance(W.Mean, LowerWall)});
-        EXPECT_GT(Least, 15) << "backdrop " << I;
-    }
+    for (int I = 0; I <= LastBackdrop; ++I)
+        for (const BodyTint* Tint : {&IvoryBody, &JadeBody, &SlateBody, &WoodBody, &SandBody}) {
+            double Least = 1e9;
+            for (const Window& W : Backdrop(I).Windows)
+                Least = std::min({Least,
+                                  EdgeDistance(W.Mean, {TileRim, Tint->WallLeft, Tint->EdgeLeft}),
+                                  EdgeDistance(W.Mean, {TileRim, Tint->WallFoot, Tint->EdgeFoot})});
+            EXPECT_GT(Least, 20) << "backdrop " << I << ", body " << Tint->Name;
+        }
+}
+
+// A tile's face, by lightness alone, so that it holds for every eye.
+TEST(Backdrops, TheFaceOfEveryBodyIsLighterThanTheGround)
+{
+    for (int I = 0; I <= LastBackdrop; ++I)
+        for (const BodyTint* Tint : {&IvoryBody, &JadeBody, &SlateBody, &WoodBody, &SandBody}) {
+            const double Light =
+                (LabOf(QColor(Tint->FaceDark).rgb()).L + LabOf(QColor(Tint->FaceLight).rgb()).L) /
+                2;
+            for (const Window& W : Backdrop(I).Windows)
+                ASSERT_GT(Light - W.Mean.L, 12) << "backdrop " << I << ", body " << Tint->Name;
+        }
 }
 
 TEST(Backdrops, TheGroundIsCalmWithinATilesSize)

@@ -20,6 +20,5 @@ TEST(TileSetFiles, BearTheNamesOfTheGame)
         EXPECT_TRUE(Names.emplace(Number, Name).second) << "two files for set " << Number;
     }
     ASSERT_EQ(Names.size(), 72U);
-    for (const auto& [Number, Name] : Names)
-        EXPECT_EQ(Name, GameState.TileSetNames(Number - 1));
+    for (const auto& [Number, Name] : Names) EXPECT_EQ(Name, GameState.TileSetNames(Number - 1));
 }
