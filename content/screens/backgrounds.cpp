@@ -230,11 +230,13 @@ static const char* const StatisticNames[] = {
     "Lowest score",     "Closest rival",
 };
 
+// Where the layouts of a size begin on the graph.
 struct SizeRow {
     int First; // layout
     const char* Tiles;
 };
-static const SizeRow SizeRows[] = {{1, "72 tiles"}, {13, "144"}, {73, "216"}, {109, "288"}};
+static const SizeRow SizeRows[] = {
+    {1, "72 tiles"}, {13, "144 tiles"}, {73, "216 tiles"}, {109, "288 tiles"}};
 
 static void DrawProfile(QPainter& P)
 {
@@ -249,11 +251,12 @@ static void DrawProfile(QPainter& P)
     P.fillRect(Graph, PlayerInk(0));
     DrawGoldLine(P, Rounded(Graph.x() - 2, Graph.y() - 2, Graph.width() + 4, Graph.height() + 4, 2),
                  1.6);
-    for (const SizeRow& Size : SizeRows) { // below the first column of each size
+    for (const SizeRow& Size : SizeRows) { // the note in the middle stays clear of them
         const double X = Graph.x() + 6 * (Size.First - 1);
-        P.fillRect(QRectF(X, Graph.bottom() + 2, 1, 9), Alpha(Gold, .9));
-        DrawText(P, QRectF(X + 5, Graph.bottom() + 6, 68, 20), Size.Tiles,
-                 {.Size = 13, .Colour = QColor(QuietText), .Place = Qt::AlignLeft});
+        P.fillRect(QRectF(X, Graph.bottom() + 2, 1, 6), Alpha(Gold, .9));
+        DrawText(
+            P, QRectF(X + 10, Graph.bottom() + 6, 62, 20), Size.Tiles,
+            {.Size = 13, .Colour = QColor(QuietText), .Place = Qt::AlignLeft | Qt::AlignVCenter});
     }
     DrawQuiet(P, QRectF(780, Graph.bottom() + 6, 210, 20), "Point at a block to read it");
 
