@@ -53,6 +53,10 @@ constexpr Look Dim(int Shade)
 {
     return {.Shade = Shade};
 }
+constexpr Look GhostDim(int Shade)
+{
+    return {.Ghost = true, .Shade = Shade};
+}
 constexpr Look Every(int Interval)
 {
     return {.Interval = Interval};

@@ -48,6 +48,14 @@ static void ShowRow(int Rank)
         SetInk((*Column)(Rank), Rank == GameState.NewHighRank ? NewRowInk : RowInk);
 }
 
+static void UnderlayNewRow()
+{
+    constexpr float Rise = 6; // of the strip above its row
+    const int Rank = GameState.NewHighRank;
+    if (Rank >= 1) SetPlace(picNewRow, picNewRow.Left, lblScrRank(Rank).Top - Rise);
+    SetVisible(picNewRow, Rank >= 1);
+}
+
 void ShowScores()
 {
     ShowGroups();
@@ -56,6 +64,7 @@ void ShowScores()
     SetVisible(imgButPlayThisDIS, GameState.GameRunning == 1);
     ShowChoice(imgGameTypeScores, GameState.ScoresGameType - 1);
     for (int Rank = 1; Rank <= 10; ++Rank) ShowRow(Rank);
+    UnderlayNewRow();
     GameState.NewHighRank = 0;
 }
 

@@ -4,7 +4,6 @@
 #include "forms.h"
 
 static const QColor Heading("#f0cf78");
-static const QColor Celadon("#498168"); // black and yellow rows both stand out on it
 
 static QRectF Grown(const QRectF& Box, double X, double Y)
 {
@@ -160,9 +159,7 @@ static void DrawScores(QPainter& P)
     DrawPlate(P, Set.adjusted(8, -3, -2, 3));
 
     const QRectF Table(332, 234, 662, 436);
-    const QPainterPath Slab = Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6);
-    FillJade(P, Slab, Celadon, Celadon);
-    P.fillPath(Slab, Alpha(Celadon, .92)); // calm the stone under the rows
+    DrawParchment(P, Table, 5); // for black rows; the newest brings a dark strip of its own
     P.fillPath(Rounded(Table.x(), Table.y(), Table.width(), 24, 4), QColor("#10291d"));
     for (int Place = 1; Place <= 3; ++Place)
         DrawMedal(P, QPointF(354, BoxOf(QString("lblScrRank(%1)").arg(Place)).center().y()), Place);
@@ -177,11 +174,10 @@ static void DrawScores(QPainter& P)
                   .Colour = Heading,
                   .Place = (Right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter});
     }
-    for (int I = 2; I <= 10; ++I) { // cut lines: dark above, light below
-        const double Y = BoxOf(QString("lblScrRank(%1)").arg(I)).y() - 8;
-        P.fillRect(QRectF(Table.x() + 12, Y, Table.width() - 24, 1), Alpha("#0c2418", .5));
-        P.fillRect(QRectF(Table.x() + 12, Y + 1, Table.width() - 24, 1), Alpha("#d8f0de", .22));
-    }
+    for (int I = 2; I <= 10; ++I)
+        P.fillRect(QRectF(Table.x() + 12, BoxOf(QString("lblScrRank(%1)").arg(I)).y() - 8,
+                          Table.width() - 24, 1),
+                   Alpha("#6a4a10", .35));
     DrawGoldLine(P, Rounded(Table.x(), Table.y(), Table.width(), Table.height(), 6), 1.6);
 }
 
