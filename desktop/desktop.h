@@ -26,6 +26,8 @@ QPointF ScreenPoint(const ScreenView& View, const QPointF& Logical);
 // Paints what lies in the clip, in device pixels, back to front.
 void PaintScreen(QPainter& Painter, const ScreenView& View, const QRect& Clip);
 QFont ElementFont(const Element& E, double Scale);
+// The font, smaller where the text is too wide, but not below 12 pixels of the screen.
+QFont FontThatFits(QFont Font, const QString& Text, double Width, double Scale);
 
 // --- pictures.cpp: picture references to pixels ---
 

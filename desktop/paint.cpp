@@ -24,16 +24,20 @@ QFont ElementFont(const Element& E, double Scale)
     return Font;
 }
 
+QFont FontThatFits(QFont Font, const QString& Text, double Width, double Scale)
+{
+    const int Smallest = qRound(SmallestFont * Scale);
+    while (Font.pixelSize() > Smallest && QFontMetrics(Font).horizontalAdvance(Text) > Width)
+        Font.setPixelSize(Font.pixelSize() - 1);
+    return Font;
+}
+
 static void PaintCaption(QPainter& Painter, const ScreenView& View, const Element& E,
                          const QRect& Place)
 {
     if (E.Caption.empty()) return;
     const QString Text = QString::fromStdString(E.Caption);
-    QFont Font = ElementFont(E, View.Scale);
-    const int Smallest = qRound(SmallestFont * View.Scale);
-    while (Font.pixelSize() > Smallest &&
-           QFontMetrics(Font).horizontalAdvance(Text) > Place.width())
-        Font.setPixelSize(Font.pixelSize() - 1);
+    const QFont Font = FontThatFits(ElementFont(E, View.Scale), Text, Place.width(), View.Scale);
     constexpr Qt::Alignment Places[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
     Painter.setFont(Font);
     Painter.setPen(QColor(E.Ink.Red, E.Ink.Green, E.Ink.Blue));

@@ -11,15 +11,18 @@
 #include <QHelpEvent>
 #include <QIcon>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStringListModel>
 #include <QTimer>
 #include <QToolTip>
 #include <QUrl>
 #include <QWindow>
 
+#include <algorithm>
 #include <iostream>
 #include <map>
 
@@ -43,7 +46,8 @@ static bool FullScreen = false, Minimised = false, Ended = false;
 static const Element* ScreenOnShow = nullptr; // as the window was last brought up
 static bool ShownFullScreen = false;
 static std::map<ElementId, QLineEdit*> TextBoxes;
-static std::map<ElementId, QComboBox*> ListBoxes;
+struct DropList;
+static std::map<ElementId, DropList*> ListBoxes;
 static std::map<ElementId, int> ListBoxItems; // the ItemsChanged that a box holds
 
 static ScreenView View()
@@ -128,7 +132,8 @@ static void LookLikeTheScreen(QWidget* Control, const Element& E)
     Control->setFont(ElementFont(E, View().Scale / View().Ratio));
     Control->setStyleSheet("color: #1e1a10; background: #f8f0d8; border: 1px solid #6a4a10;"
                            "border-radius: 3px; padding-left: 4px;"
-                           "selection-background-color: #2f6b4e; selection-color: #fff8e0;");
+                           "selection-background-color: #2f6b4e; selection-color: #fff8e0;"
+                           "combobox-popup: 0;"); // a list under the box, not over the screen
 }
 
 static QLineEdit* MakeTextBox(const Element& E)
@@ -168,22 +173,56 @@ static void SyncTextBox(const Element& E)
     if (Box->text() != Text) Box->setText(Text);
 }
 
-// A list box that tells the rules before its list drops down.
+// A list box in the look of the screen, which tells the rules before its list drops down.
 struct DropList : QComboBox {
     const Element& E;
-    explicit DropList(const Element& Owner) : QComboBox(Window), E(Owner) {}
+    explicit DropList(const Element& Owner) : QComboBox(Window), E(Owner)
+    {
+        setModel(new QStringListModel(this));
+        setMaxVisibleItems(16);
+        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // measures no item
+    }
     void showPopup() override
     {
         SendDropDown(E);
         AfterEvent();
+        static_cast<QListView*>(view())->setUniformItemSizes(true);
         QComboBox::showPopup();
+    }
+    void keyPressEvent(QKeyEvent* Event) override
+    {
+        // Shift and an arrow move the window, wherever the keyboard is.
+        if (Event->modifiers() == Qt::ShiftModifier)
+            Event->ignore();
+        else
+            QComboBox::keyPressEvent(Event);
+    }
+    void paintEvent(QPaintEvent*) override
+    {
+        constexpr double Round = 3;
+        QPainter Painter(this);
+        Painter.setRenderHint(QPainter::Antialiasing);
+        Painter.setPen(hasFocus() ? QPen(QColor("#ff9d00"), 2) : QPen(QColor("#6a4a10"), 1));
+        Painter.setBrush(QColor("#f8f0d8"));
+        Painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Round, Round);
+        const bool Dropped = view()->isVisible();
+        const Pixels Arrow = FindPixels(StockPicture(ArrowDN(Dropped ? 1 : 0)), View().Scale);
+        const double Ratio = View().Ratio;
+        const QSizeF Size = QSizeF(Arrow.Part.size()) / Ratio;
+        const double Margin = (height() - Size.height()) / 2;
+        const double ArrowLeft = width() - Size.width() - Margin;
+        if (Arrow.Image)
+            Painter.drawImage(QRectF(QPointF(ArrowLeft, Margin), Size), *Arrow.Image, Arrow.Part);
+        const QRectF Room(2 * Margin + 2, 0, ArrowLeft - 3 * Margin, height());
+        Painter.setFont(FontThatFits(font(), currentText(), Room.width(), View().Scale / Ratio));
+        Painter.setPen(QColor("#1e1a10"));
+        Painter.drawText(Room, Qt::AlignVCenter | Qt::TextSingleLine, currentText());
     }
 };
 
-static QComboBox* MakeListBox(const Element& E)
+static DropList* MakeListBox(const Element& E)
 {
     auto* Box = new DropList(E);
-    Box->setMaxVisibleItems(16);
     QObject::connect(Box, &QComboBox::activated, Window, [&E, Box](int Index) {
         SendChoice(E, Box->itemText(Index).toStdString());
         AfterEvent();
@@ -191,29 +230,39 @@ static QComboBox* MakeListBox(const Element& E)
     return Box;
 }
 
+// The items of a list box as the window's texts. The players' boxes all hold the same: they are
+// made once.
+static const QStringList& ItemTexts(const std::vector<std::string>& Items)
+{
+    static std::vector<std::string> Known;
+    static QStringList Texts;
+    if (Known != Items) {
+        Known = Items;
+        Texts.clear();
+        for (const std::string& Item : Items) Texts << QString::fromStdString(Item);
+    }
+    return Texts;
+}
+
 static void SyncListBox(const Element& E)
 {
-    QComboBox*& Box = ListBoxes[E.Id];
+    DropList*& Box = ListBoxes[E.Id];
     if (!IsShown(E)) {
         if (Box) Box->hide();
         return;
     }
     if (!Box) Box = MakeListBox(E);
+    if (ListBoxItems[E.Id] != E.ItemsChanged) {
+        static_cast<QStringListModel*>(Box->model())->setStringList(ItemTexts(E.Items));
+        ListBoxItems[E.Id] = E.ItemsChanged;
+    }
+    const auto Chosen = std::find(E.Items.begin(), E.Items.end(), E.Caption);
+    Box->setCurrentIndex(Chosen == E.Items.end() ? -1 : static_cast<int>(Chosen - E.Items.begin()));
     if (!Box->isVisible()) {
         LookLikeTheScreen(Box, E);
         Box->setGeometry(LogicalPlace(E));
         Box->show();
     }
-    if (ListBoxItems[E.Id] != E.ItemsChanged) {
-        QStringList Items;
-        for (const std::string& Item : E.Items) Items << QString::fromStdString(Item);
-        Box->clear();
-        Box->addItems(Items);
-        ListBoxItems[E.Id] = E.ItemsChanged;
-    }
-    const QString Text = QString::fromStdString(E.Caption);
-    if (Box->currentText() != Text || Box->currentIndex() < 0)
-        Box->setCurrentIndex(E.Caption.empty() ? -1 : Box->findText(Text));
 }
 
 static void SyncControls()
