@@ -1,8 +1,10 @@
 #!/bin/sh
-# play_a_game.sh GAMEDIR: a bot plays a whole game of Finesse in the real window with the pointer, to
-# the last pair or a dead end. Then the game is left, and the next run finds what it recorded.
+# play_a_game.sh GAMEDIR BOT: a bot plays a whole game of Finesse in the real window with the pointer,
+# to the last pair or a dead end. Its name is pasted, typed and composed in the name box. Then the game
+# is left, and the next run finds what it recorded.
 GAME=$1
 BOT=$2
+CLIPBOARD=$(dirname "$BOT")/hold-clipboard
 . "$(dirname "$0")/window.sh"
 open_display 1024x768
 use_window_manager
@@ -11,7 +13,7 @@ offset=$(printf 'boot\nstate LayoutOffset(19)\n' | "$GAME/pagodas-console" "$WOR
 add_x=$(echo "$offset" | cut -c1-2 | sed 's/^0//')
 add_y=$(echo "$offset" | cut -c3-4 | sed 's/^0//')
 
-start_game
+LC_ALL=C.UTF-8 start_game
 press imgbutStart
 left=$("$BOT" "$GAME" "$add_x" "$add_y")
 echo "tiles left: $left"
@@ -20,7 +22,29 @@ echo "tiles left: $left"
 # The first score of all gets a place, won or lost: the name is typed into the window.
 sleep 0.5
 shot played-name
-xdotool type 'Window Bot'
+# A paste of a page with control characters is one line of bounded length.
+"$CLIPBOARD" "$(printf 'A\tname\001 of\n\033[1m%0400d' 7)" &
+clipboard=$!
+sleep 1
+xdotool key ctrl+v
+sleep 0.5
+shot played-pasted
+kill "$clipboard"
+kill -0 "$program" || fail "the paste ended the game"
+# Twelve of the widest letters fit the box.
+xdotool key ctrl+a
+xdotool type 'WWWWWWWWWWWW'
+sleep 0.3
+shot played-widest
+# Nothing typed, nothing to press: the button is covered.
+xdotool key ctrl+a BackSpace
+sleep 0.3
+shot played-empty
+# An input method gives a letter that no key has.
+xdotool type 'Jos'
+xdotool key Multi_key apostrophe e
+xdotool type ' Bot'
+sleep 0.3
 shot played-typed
 xdotool key Return
 sleep 0.7
@@ -45,7 +69,7 @@ wait_for_end
 cat "$WORK/recorded"
 score=$(sed -n 1p "$WORK/recorded")
 [ "$score" -ge $((144 - left)) ] || fail "the score $score is less than two a pair"
-[ "$(sed -n 2p "$WORK/recorded")" = '"window bot"' ] || fail "the name is not in the table"
+[ "$(sed -n 2p "$WORK/recorded")" = '"josé bot"' ] || fail "the name is not in the table"
 [ "$(($(sed -n 3p "$WORK/recorded") + $(sed -n 4p "$WORK/recorded")))" = 1 ] || fail "the game was not counted"
 
 # The program itself shows the same score table when it is started again, and the settings stay.
