@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QStringListModel>
 #include <QTimer>
@@ -132,15 +133,17 @@ static void LookLikeTheScreen(QWidget* Control, const Element& E)
     Control->setFont(ElementFont(E, View().Scale / View().Ratio));
     Control->setStyleSheet("color: #1e1a10; background: #f8f0d8; border: 1px solid #6a4a10;"
                            "border-radius: 3px; padding-left: 4px;"
-                           "selection-background-color: #2f6b4e; selection-color: #fff8e0;"
-                           "combobox-popup: 0;"); // a list under the box, not over the screen
+                           "selection-background-color: #2f6b4e; selection-color: #fff8e0;");
 }
 
 static QLineEdit* MakeTextBox(const Element& E)
 {
     auto* Box = new QLineEdit(Window);
     Box->setMaxLength(255);
-    QObject::connect(Box, &QLineEdit::textEdited, Window, [&E](const QString& Text) {
+    QObject::connect(Box, &QLineEdit::textEdited, Window, [&E](QString Text) {
+        // A paste can bring tabs and other control characters: no name has them.
+        for (QChar& C : Text)
+            if (C.category() == QChar::Other_Control) C = ' ';
         SendText(E, Text.toStdString());
         AfterEvent();
     });
@@ -173,11 +176,35 @@ static void SyncTextBox(const Element& E)
     if (Box->text() != Text) Box->setText(Text);
 }
 
+// The list drops down under its box, not over the screen.
+struct ListStyle : QProxyStyle {
+    int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                  QStyleHintReturn* Return) const override
+    {
+        return Hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(Hint, Option, Widget, Return);
+    }
+};
+
+static QPalette ListColours()
+{
+    QPalette Colours;
+    Colours.setColor(QPalette::Base, QColor("#f8f0d8"));
+    Colours.setColor(QPalette::Text, QColor("#1e1a10"));
+    Colours.setColor(QPalette::Highlight, QColor("#2f6b4e"));
+    Colours.setColor(QPalette::HighlightedText, QColor("#fff8e0"));
+    return Colours;
+}
+
 // A list box in the look of the screen, which tells the rules before its list drops down.
 struct DropList : QComboBox {
     const Element& E;
+    bool Dropped = false; // asking view() would make the list
     explicit DropList(const Element& Owner) : QComboBox(Window), E(Owner)
     {
+        static ListStyle* Style = nullptr;
+        if (!Style) (Style = new ListStyle)->setParent(qApp);
+        setStyle(Style);
+        setPalette(ListColours());
         setModel(new QStringListModel(this));
         setMaxVisibleItems(16);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // measures no item
@@ -187,7 +214,13 @@ struct DropList : QComboBox {
         SendDropDown(E);
         AfterEvent();
         static_cast<QListView*>(view())->setUniformItemSizes(true);
+        Dropped = true;
         QComboBox::showPopup();
+    }
+    void hidePopup() override
+    {
+        Dropped = false;
+        QComboBox::hidePopup();
     }
     void keyPressEvent(QKeyEvent* Event) override
     {
@@ -203,9 +236,8 @@ struct DropList : QComboBox {
         QPainter Painter(this);
         Painter.setRenderHint(QPainter::Antialiasing);
         Painter.setPen(hasFocus() ? QPen(QColor("#ff9d00"), 2) : QPen(QColor("#6a4a10"), 1));
-        Painter.setBrush(QColor("#f8f0d8"));
+        Painter.setBrush(palette().base());
         Painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Round, Round);
-        const bool Dropped = view()->isVisible();
         const Pixels Arrow = FindPixels(StockPicture(ArrowDN(Dropped ? 1 : 0)), View().Scale);
         const double Ratio = View().Ratio;
         const QSizeF Size = QSizeF(Arrow.Part.size()) / Ratio;
@@ -213,9 +245,9 @@ struct DropList : QComboBox {
         const double ArrowLeft = width() - Size.width() - Margin;
         if (Arrow.Image)
             Painter.drawImage(QRectF(QPointF(ArrowLeft, Margin), Size), *Arrow.Image, Arrow.Part);
-        const QRectF Room(2 * Margin + 2, 0, ArrowLeft - 3 * Margin, height());
+        const QRectF Room(2 * Margin + 2, 0, ArrowLeft - 5 * Margin - 2, height());
         Painter.setFont(FontThatFits(font(), currentText(), Room.width(), View().Scale / Ratio));
-        Painter.setPen(QColor("#1e1a10"));
+        Painter.setPen(palette().text().color());
         Painter.drawText(Room, Qt::AlignVCenter | Qt::TextSingleLine, currentText());
     }
 };
@@ -259,7 +291,7 @@ static void SyncListBox(const Element& E)
     const auto Chosen = std::find(E.Items.begin(), E.Items.end(), E.Caption);
     Box->setCurrentIndex(Chosen == E.Items.end() ? -1 : static_cast<int>(Chosen - E.Items.begin()));
     if (!Box->isVisible()) {
-        LookLikeTheScreen(Box, E);
+        Box->setFont(ElementFont(E, View().Scale / View().Ratio));
         Box->setGeometry(LogicalPlace(E));
         Box->show();
     }

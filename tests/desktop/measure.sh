@@ -4,30 +4,15 @@
 GAME=$1
 RUNS=${2:-3}
 . "$(dirname "$0")/window.sh"
+. "$(dirname "$0")/cpu.sh"
 open_display 1024x768
 use_window_manager
-
-# CPU milliseconds of all threads so far
-cpu() { cat /proc/"$program"/task/*/schedstat | awk '{ s += $1 } END { printf "%.2f\n", s / 1e6 }'; }
-pss() { awk '/^Pss:/ { printf "%.1f\n", $2 / 1024 }' /proc/"$program"/smaps_rollup; }
-note() { echo "$2" >>"$WORK/measure.$1"; }
-since() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f\n", b - a }'; }
-median() { sort -n "$WORK/measure.$1" | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 
 # Places first: asking the console takes time of its own.
 start_at=$(middle_of imgbutStart)
 menu_at=$(middle_of imgButMenu)
 scores_at=$(middle_of imgMenuScores)
 ok_at=$(middle_of imgOKScores)
-click_at() {
-    # shellcheck disable=SC2086
-    xdotool mousemove $1
-    sleep 0.3
-    before=$(cpu)
-    xdotool click 1
-    sleep 0.5
-    since "$before" "$(cpu)"
-}
 
 for run in $(seq "$RUNS"); do
     rm -f "$WORK/game/Settings.dat"
@@ -61,7 +46,4 @@ for run in $(seq "$RUNS"); do
     wait "$program" 2>/dev/null || true
     program=
 done
-printf '%-16s %s\n' what median
-for what in splash idle-screen deal hover-1000 idle-10s menu scores scores-closed pss-board; do
-    printf '%-16s %s\n' "$what" "$(median "$what")"
-done
+table splash idle-screen deal hover-1000 idle-10s menu scores scores-closed pss-board
