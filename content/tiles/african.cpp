@@ -158,22 +158,6 @@ static void DrawCloth(QPainter& G, const African& Own)
             ++J;
         }
     }
-    if (M == "fish") {
-        for (int R = 0; R < 5; ++R) {
-            for (int I = 0; I < 4; ++I) {
-                int X = 18 + I * 22 + R % 2 * 11;
-                int Y = 16 + R * 17;
-                Fill(G,
-                     ClosedCurve({{X - 8.0, double(Y)},
-                                  {double(X), Y - 5.0},
-                                  {X + 6.0, double(Y)},
-                                  {double(X), Y + 5.0}}),
-                     Own.Cols[1]);
-                Fill(G, Polygon({{X + 5.0, double(Y)}, {X + 11.0, Y - 5.0}, {X + 11.0, Y + 5.0}}),
-                     Own.Cols[1]);
-            }
-        }
-    }
     G.restore();
     Stroke(G, Path, Dark(Own.Cols[0], .6), 1.8);
 }
@@ -533,13 +517,6 @@ static void DrawShieldp(QPainter& G, const African& Own)
         Fill(G, Ellipse(76, 50, 14, 26), Own.Cols[2]);
         Fill(G, Ellipse(50, 50, 5, 26), Own.Cols[0]);
     }
-    if (M == "half") {
-        FillBox(G, 50, 0, 60, 100, Own.Cols[1]);
-        for (const double Y : {20, 40, 60, 80}) Fill(G, Triangle(50, Y, 9, 1), Own.Cols[2]);
-    }
-    if (M == "rings")
-        for (int I = 0; I < 4; ++I)
-            Fill(G, Ellipse(50, 50, 40 - I * 9, 46 - I * 10), Cycled(Own.Cols, I));
     G.restore();
     Stroke(G, Path, EdgeOf(Own.Cols[0], .65, "#4a3a20"), 2.2);
 }

@@ -75,13 +75,12 @@ static void DrawBeak(QPainter& G, const Bird& Own, double X, double Y, double Si
         Outline(G, Bent({{4, -12}, {-18, -13}, {-36, -2}, {-34, 8}, {-18, 5}, {4, 10}}),
                 Own.BeakTint, BeakEdge, 1.4);
         Outline(G, Bent({{-29, -7}, {-36, -2}, {-34, 8}, {-29, 4}}), "#1a1a1a", "#000", 1);
-        Outline(G, Bent({{4, 3}, {-18, 1}, {-32, 4}, {-18, 6}, {4, 10}}),
-                Colour(Own.R, "bc2", "#e8401c"), BeakEdge, 1);
+        Outline(G, Bent({{4, 3}, {-18, 1}, {-32, 4}, {-18, 6}, {4, 10}}), "#e8401c", BeakEdge, 1);
     }
     if (Own.BeakKind == "pelican") {
         Outline(G, Bent({{4, -4}, {-40, 4}, {4, 6}}), Own.BeakTint, BeakEdge, 1.2);
-        Outline(G, Bent({{4, 4}, {-36, 5}, {-26, 18}, {-8, 26}, {6, 14}}),
-                Colour(Own.R, "bc2", "#ffd08a"), BeakEdge, 1.3);
+        Outline(G, Bent({{4, 4}, {-36, 5}, {-26, 18}, {-8, 26}, {6, 14}}), "#ffd08a", BeakEdge,
+                1.3);
     }
     if (Own.BeakKind == "puffin") {
         Outline(G, Bent({{4, -10}, {-8, -9}, {-15, 1}, {-8, 9}, {4, 9}}), "#e84a1c", BeakEdge, 1.3);
@@ -99,9 +98,6 @@ static void DrawBeak(QPainter& G, const Bird& Own, double X, double Y, double Si
         Outline(G, Bent({{4, -10}, {-10, -16}, {-20, -8}, {-8, -2}, {4, -3}}),
                 Colour(Own.R, "bc2", "#e8641c"), BeakEdge, 1.2);
     }
-    if (Own.BeakKind == "shoe")
-        Outline(G, Bent({{4, -9}, {-16, -7}, {-28, 6}, {-24, 12}, {-12, 10}, {4, 10}}),
-                Own.BeakTint, BeakEdge, 1.4);
 }
 
 static void DrawEye(QPainter& G, const Bird& Own, double X, double Y, double R = 3.4,
@@ -153,29 +149,6 @@ static void DrawTail(QPainter& G, const Bird& Own, double X, double Y)
             Outline(G, Circle(X2, Y2, 8.5), "#2ab86a", "#0a4a2a", 1.2);
             Outline(G, Circle(X2, Y2, 5), "#1c6ad8", "#0a2a6a", 1);
             Fill(G, Circle(X2, Y2, 2.2), "#f0c81c");
-        }
-    }
-    if (Own.TailKind == "lyre")
-        for (const double Side : {1.0, .3})
-            Outline(G,
-                    ClosedCurve({{X, Y},
-                                 {X + 18, Y - 26 * Side - 6},
-                                 {X + 40, Y - 30 * Side - 10},
-                                 {X + 48, Y - 16 * Side - 8},
-                                 {X + 40, Y - 22 * Side - 6},
-                                 {X + 20, Y - 14 * Side - 2}},
-                                .6),
-                    Own.TailTint, Dark(Own.TailTint, .5), 1.3);
-    if (Own.TailKind == "plume") {
-        for (int I = 0; const QColor Tone : {Own.TailTint, Light(Own.TailTint, .3)}) {
-            Outline(G,
-                    ClosedCurve({{X, Y + I * 2},
-                                 {X + 26, Y + 20 + I * 4},
-                                 {X + 34 - I * 6, Y + 50},
-                                 {X + 20, Y + 28 + I * 2}},
-                                .6),
-                    Tone, Dark(Tone, .5), 1.2);
-            ++I;
         }
     }
 }
@@ -236,12 +209,6 @@ static void DrawMarks(QPainter& G, const Bird& Own, const QPainterPath& Path, do
         if (M == "breast")
             Fill(G, Ellipse(X0 + 12, Y1 - 10, (X1 - X0) * .42, (Y1 - Y0) * .46, -20),
                  Own.BreastTint);
-        if (M == "spots") {
-            Random Chance{3};
-            for (int I = 0; I < 40; ++I)
-                Fill(G, Circle(Uniform(Chance, X0, X1), Uniform(Chance, Y0, Y1), 2),
-                     Colour(Own.R, "mc", "#ffffff"));
-        }
         if (M == "streak") {
             Random Chance{5};
             for (int I = 0; I < 30; ++I) {
@@ -250,9 +217,6 @@ static void DrawMarks(QPainter& G, const Bird& Own, const QPainterPath& Path, do
                 StrokeLine(G, A, E, A + 1, E + 5, Colour(Own.R, "mc", "#3a2a1a"), 1.8);
             }
         }
-        if (M == "bars")
-            for (int Y = static_cast<int>(Y0); Y < static_cast<int>(Y1); Y += 7)
-                StrokeLine(G, X0, Y, X1, Y + 4, Colour(Own.R, "mc", "#3a2a1a"), 2.4);
     }
     G.restore();
 }
@@ -260,13 +224,13 @@ static void DrawMarks(QPainter& G, const Bird& Own, const QPainterPath& Path, do
 static void DrawPerch(QPainter& G, const Bird& Own)
 {
     const double Bx = Number(Own.R, "bx", 52);
-    const double By = Number(Own.R, "by", 56);
-    const double Rx = Number(Own.R, "rx", 26);
-    const double Ry = Number(Own.R, "ry", 19);
+    const double By = 56;
+    const double Rx = 26;
+    const double Ry = 19;
     const double Rot = Number(Own.R, "rot", 22);
-    double HeadSize = Number(Own.R, "hr", 14.5);
+    double HeadSize = 14.5;
     double HeadX = Number(Own.R, "hx", 31);
-    double HeadY = Number(Own.R, "hy", 34);
+    double HeadY = 34;
     DrawTail(G, Own, Bx + Rx * .75, By + Ry * .35 + 6);
     DrawLegs(G, Own, Bx - 6, By + Ry - 3, Number(Own.R, "leg", 14));
     const QPainterPath Body = Ellipse(Bx, By, Rx, Ry, Rot)
@@ -332,10 +296,6 @@ static void DrawPerch(QPainter& G, const Bird& Own)
     DrawEye(G, Own, HeadX - 4, HeadY - 2, 3.6, Text(Own.R, "ring"));
     if (Has(Own.R, "wattle"))
         Outline(G, Ellipse(HeadX - HeadSize + 2, HeadY + 10, 3.6, 6), "#e01c1c", "#6a0808", 1.1);
-    if (Has(Own.R, "branch")) {
-        const QPainterPath Path = Tube({{10, 90, 2.4}, {40, 88, 3.4}, {92, 92, 2.4}});
-        Outline(G, Path, "#7a4a22", "#3a2008", 1.2);
-    }
 }
 
 static void DrawOwl(QPainter& G, const Bird& Own)
@@ -498,19 +458,8 @@ static void DrawStand(QPainter& G, const Bird& Own)
     if (Has(Own.R, "face"))
         for (const double Side : {-1, 1})
             Fill(G, Ellipse(50 + Side * 7.5, 23, 9, 10), Colour(Own.R, "face"));
-    if (Has(Own.R, "band"))
-        Stroke(G, Curve({{30, 92}, {33, 52}, {50, 42}, {67, 52}, {70, 92}}), Colour(Own.R, "band"),
-               5);
     G.restore();
     for (const double Side : {-1, 1}) DrawEye(G, Own, 50 + Side * 7, 21, 3.4);
-    if (Has(Own.R, "brow"))
-        for (const double Side : {-1, 1})
-            Outline(G,
-                    ClosedCurve({{50 + Side * 4, 14},
-                                 {50 + Side * 16, 10},
-                                 {50 + Side * 26, 16},
-                                 {50 + Side * 14, 15}}),
-                    Colour(Own.R, "brow"), Dark(Colour(Own.R, "brow"), .4), 1);
     Outline(G, Polygon({{43, 28}, {57, 28}, {50, 38}}), Own.BeakTint, Dark(Own.BeakTint, .5), 1.2);
     for (const double Side : {-1, 1})
         Outline(G, Ellipse(50 + Side * 11, 93, 9, 4), Colour(Own.R, "lc", "#f0a01c"), "#6a4a08",

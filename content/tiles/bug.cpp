@@ -143,7 +143,6 @@ static void Shell(QPainter& G, const Bug& Own, double Top, double Bot, double W)
         FillBox(G, 0, Top + 18, 100, 9, Own.Tint2);
         FillBox(G, 0, Top + 40, 100, 9, Own.Tint2);
     }
-    if (Pattern == "half") FillBox(G, 0, (Top + Bot) / 2, 100, 100, Own.Tint2);
     if (Pattern == "shine") {
         FillBox(G, 0, 0, 100, 100,
                 Linear(20, 0, 80, 100,
@@ -393,11 +392,6 @@ static void DrawSpider(QPainter& G, const Bug& Own)
         for (int I = 0; I < 4; ++I) StrokeLine(G, 20, 56 + I * 10, 80, 56 + I * 10, Own.Tint2, 4.4);
         G.restore();
     }
-    if (M == "face") {
-        Fill(G, Ellipse(43, 66, 3.2, 4), Own.Tint2);
-        Fill(G, Ellipse(57, 66, 3.2, 4), Own.Tint2);
-        Stroke(G, Curve({{41, 76}, {50, 82}, {59, 76}}), Own.Tint2, 2);
-    }
     Outline(G, Ellipse(50, 42, 13, 12), Radial(46, 38, 18, {Light(Own.HeadTint, .4), Own.HeadTint}),
             Dark(Own.HeadTint, .5), 1.5);
     for (const auto& [X, Y] :
@@ -457,12 +451,6 @@ static void DrawCater(QPainter& G, const Bug& Own)
                        {Light(Own.Tint, .45), I % 2 == 0 ? Own.Tint : Colour(Own.R, "cb", Own.Tint),
                         Dark(Own.Tint, .15)}),
                 Own.Edge, 1.5);
-        if (Has(Own.R, "spike")) {
-            for (const double A : {-110, -70}) {
-                StrokeLine(G, X, Y - 9, X + 9 * std::cos(Radians(A)),
-                           Y - 9 + 10 * std::sin(Radians(A)), Colour(Own.R, "spike"), 2);
-            }
-        }
         Fill(G, Circle(X, Y - 1, 3.4), Own.Tint2);
         StrokeLine(G, X - 3, Y + 11, X - 4, Y + 15, Own.Edge, 2.4);
         StrokeLine(G, X + 3, Y + 11, X + 3, Y + 15, Own.Edge, 2.4);
@@ -546,7 +534,7 @@ static void DrawHopper(QPainter& G, const Bug& Own)
         Stroke(G, Curve({{50 + Side * 36, 28}, {50 + Side * 34, 62}, {50 + Side * 40, 92}}),
                Own.LegTint, 2.6);
     }
-    Antennae(G, Own, Has(Own.R, "cricket") ? "long" : "short", 14);
+    Antennae(G, Own, "short", 14);
     Outline(G,
             ClosedCurve(
                 {{50, 14}, {58, 22}, {60, 44}, {57, 76}, {50, 98}, {43, 76}, {40, 44}, {42, 22}}),
@@ -557,23 +545,6 @@ static void DrawHopper(QPainter& G, const Bug& Own)
     StrokeLine(G, 50, 50, 50, 96, Own.Edge, 1.2);
     for (const double Side : {-1, 1})
         Outline(G, Ellipse(50 + Side * 7, 20, 3.4, 4.4), "#2a1a10", "#000", .8);
-}
-
-static void DrawStick(QPainter& G, const Bug& Own)
-{
-    for (const double Side : {-1, 1}) {
-        for (const auto& [Y, A, B, E, F] : Table<double, double, double, double, double>{
-                 {26, 20, 16, 30, -4}, {42, 24, 40, 40, 52}, {56, 20, 66, 34, 90}}) {
-            Stroke(G, Curve({{50, Y}, {50 + Side * A, B}, {50 + Side * E, F}}, .35),
-                   Dark(Own.Tint, .15), 2.4);
-        }
-    }
-    const QPainterPath Path = Tube(
-        {{50, 100, 1.2}, {50, 84, 2.8}, {50, 60, 3.2}, {50, 40, 3}, {50, 20, 3.4}, {50, 12, 3.6}});
-    Outline(G, Path, Linear(45, 0, 55, 0, {Light(Own.Tint, .3), Own.Tint, Dark(Own.Tint, .2)}),
-            Own.Edge, 1.3);
-    for (const double Y : {26, 42, 56, 70, 84}) StrokeLine(G, 46.6, Y, 53.4, Y, Own.Edge, 1.2);
-    for (const double Side : {-1, 1}) StrokeLine(G, 50, 10, 50 + Side * 12, -8, Own.Edge, 1.2);
 }
 
 static void DrawWoodlouse(QPainter& G, const Bug& Own)
@@ -597,66 +568,11 @@ static void DrawWoodlouse(QPainter& G, const Bug& Own)
     G.restore();
 }
 
-static void DrawStrider(QPainter& G, const Bug& Own)
-{
-    for (const double Side : {-1, 1}) {
-        Stroke(G, Curve({{50 + Side * 3, 34}, {50 + Side * 14, 24}, {50 + Side * 12, 10}}),
-               Own.LegTint, 2);
-        Stroke(G, Curve({{50 + Side * 4, 48}, {50 + Side * 30, 34}, {50 + Side * 50, 8}}, .5),
-               Own.LegTint, 2);
-        Stroke(G, Curve({{50 + Side * 4, 56}, {50 + Side * 30, 66}, {50 + Side * 48, 96}}, .5),
-               Own.LegTint, 2);
-    }
-    for (const auto& [X, Y] : Table<double, double>{{0, 8}, {100, 8}, {2, 96}, {98, 96}})
-        Stroke(G, Ellipse(X, Y, 7, 3.4), Alpha("#4aa8e0", .8), 1.6);
-    const QPainterPath Path =
-        Tube({{50, 92, 1.6}, {50, 70, 4.6}, {50, 48, 5.4}, {50, 28, 4}, {50, 20, 3.6}});
-    Outline(G, Path, Own.Tint, Own.Edge, 1.4);
-}
-
-static void DrawWeb(QPainter& G, const Bug&)
-{
-    for (int I = 0; I < 8; ++I) {
-        double A = Radians(I * 45 + 10);
-        StrokeLine(G, 50, 50, 50 + 48 * std::cos(A), 50 + 48 * std::sin(A), "#8a92a0", 1.4);
-    }
-    for (const double R : {12, 22, 32, 42}) {
-        Stroke(G,
-               ClosedCurve(PointRow(16,
-                                    [&](int J) {
-                                        return QPointF(50 + (J % 2 == 0 ? R : R * .86) *
-                                                                std::cos(Radians(J * 22.5 + 10)),
-                                                       50 + (J % 2 == 0 ? R : R * .86) *
-                                                                std::sin(Radians(J * 22.5 + 10)));
-                                    }),
-                           .2),
-               "#8a92a0", 1.4);
-    }
-    for (const double Side : {-1, 1}) {
-        for (const auto& [A, B] : Table<double, double>{{12, -10}, {16, -2}, {16, 7}, {12, 15}}) {
-            Stroke(G,
-                   Curve({{50 + Side * 4, 54},
-                          {50 + Side * A * .6, 50 + B},
-                          {50 + Side * A, 56 + B * 1.4}}),
-                   "#1a1a20", 2);
-        }
-    }
-    Outline(G, Ellipse(50, 60, 7, 8), "#3a3a46", "#111", 1);
-    Outline(G, Circle(50, 51, 4.6), "#2a2a33", "#111", 1);
-}
-
-static void DrawEmoji(QPainter& G, const Bug& Own)
-{
-    DrawFitted(G, EmojiImage(Text(Own.R, "cp")), QRectF(2, 2, 96, 96));
-}
-
 static constexpr FigureRow<const Bug> Figures[] = {
-    {"beetle", DrawBeetle},       {"wasp", DrawWasp},       {"fly", DrawFly},
-    {"dragon", DrawDragon},       {"ant", DrawAnt},         {"spider", DrawSpider},
-    {"scorpion", DrawScorpion},   {"cater", DrawCater},     {"centi", DrawCenti},
-    {"mantis", DrawMantis},       {"hopper", DrawHopper},   {"stick", DrawStick},
-    {"woodlouse", DrawWoodlouse}, {"strider", DrawStrider}, {"web", DrawWeb},
-    {"emoji", DrawEmoji},
+    {"beetle", DrawBeetle},     {"wasp", DrawWasp},     {"fly", DrawFly},
+    {"dragon", DrawDragon},     {"ant", DrawAnt},       {"spider", DrawSpider},
+    {"scorpion", DrawScorpion}, {"cater", DrawCater},   {"centi", DrawCenti},
+    {"mantis", DrawMantis},     {"hopper", DrawHopper}, {"woodlouse", DrawWoodlouse},
 };
 
 static void Draw(QPainter& G, const Bug& Own)

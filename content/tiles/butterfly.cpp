@@ -230,9 +230,6 @@ static void Draw(QPainter& G, const Butterfly& Own)
     Outline(G, Ellipse(50, 44, 4.6, 8), Linear(45, 0, 55, 0, {Light(BodyColour, .35), BodyColour}),
             Dark(BodyColour, .3), .8);
     Outline(G, Circle(50, 34.5, 3.6), BodyColour, Dark(BodyColour, .3), .8);
-    if (Has(Own.R, "bodystripe"))
-        for (int I = 0; I < 5; ++I)
-            StrokeLine(G, 47.6, 54 + I * 5, 52.4, 54 + I * 5, Colour(Own.R, "bodystripe"), 1.6);
 }
 
 void DrawButterfly(QPainter& P, const Recipe& R)

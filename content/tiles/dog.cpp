@@ -204,10 +204,6 @@ static void DrawPatches(QPainter& G, const Dog& Own)
             Fill(G, ClosedCurve({{47, 0}, {46, 36}, {38, 58}, {22, 70}, {0, 70}, {0, 0}}),
                  Own.PatchTint);
         }
-        if (K == "capR") {
-            Fill(G, Mirrored(ClosedCurve({{47, 0}, {46, 36}, {38, 58}, {22, 70}, {0, 70}, {0, 0}})),
-                 Own.PatchTint);
-        }
         if (K == "mask") {
             Fill(G,
                  ClosedCurve({{50, 44},
@@ -218,17 +214,17 @@ static void DrawPatches(QPainter& G, const Dog& Own)
                               {18, 84},
                               {24, 56},
                               {38, 46}}),
-                 Colour(Own.R, "maskc", "#2a211d"));
+                 "#2a211d");
         }
         if (K == "eyemask") {
-            Fill(G, Ellipse(35, 47, 13, 12), Colour(Own.R, "maskc", "#2a211d"));
-            Fill(G, Ellipse(65, 47, 13, 12), Colour(Own.R, "maskc", "#2a211d"));
+            Fill(G, Ellipse(35, 47, 13, 12), "#2a211d");
+            Fill(G, Ellipse(65, 47, 13, 12), "#2a211d");
         }
         if (K == "tan") {
-            Fill(G, Ellipse(37, 35, 5, 4), Colour(Own.R, "tanc", "#c9772c"));
-            Fill(G, Ellipse(63, 35, 5, 4), Colour(Own.R, "tanc", "#c9772c"));
-            Fill(G, Ellipse(30, 70, 14, 15), Colour(Own.R, "tanc", "#c9772c"));
-            Fill(G, Ellipse(70, 70, 14, 15), Colour(Own.R, "tanc", "#c9772c"));
+            Fill(G, Ellipse(37, 35, 5, 4), "#c9772c");
+            Fill(G, Ellipse(63, 35, 5, 4), "#c9772c");
+            Fill(G, Ellipse(30, 70, 14, 15), "#c9772c");
+            Fill(G, Ellipse(70, 70, 14, 15), "#c9772c");
         }
         if (K == "spots") {
             for (const auto& [X, Y, R] : Table<double, double, double>{{36, 24, 5},
@@ -254,21 +250,6 @@ static void DrawPatches(QPainter& G, const Dog& Own)
                                   {X + R * .4, Y + R * .9},
                                   {X - R * .6, Y + R * .6}}),
                      "#2a2a33");
-            }
-        }
-        if (K == "brindle") {
-            for (int I = 0; I < 7; ++I) {
-                Outline(
-                    G,
-                    Curve({{20.0 + I * 2, 20.0 + I * 8}, {34, 24.0 + I * 8}, {44, 20.0 + I * 8}}),
-                    Radial(50, 40, 56, {Light(Own.Base, .16), Own.Base, Dark(Own.Base, .12)}),
-                    Dark(Own.Base, .4), 2);
-                Outline(
-                    G,
-                    Mirrored(Curve(
-                        {{20.0 + I * 2, 20.0 + I * 8}, {34, 24.0 + I * 8}, {44, 20.0 + I * 8}})),
-                    Radial(50, 40, 56, {Light(Own.Base, .16), Own.Base, Dark(Own.Base, .12)}),
-                    Dark(Own.Base, .4), 2);
             }
         }
     }
@@ -383,7 +364,7 @@ static void DrawEyes(QPainter& G, const Dog& Own)
                  "#ffffff");
             if (Has(Own.R, "droop")) {
                 FillBox(G, Cx - Own.EyeSize * 1.3, Own.EyeY - Own.EyeSize * 1.4, Own.EyeSize * 2.6,
-                        Own.EyeSize * 1.1, Colour(Own.R, "lid", Own.Base));
+                        Own.EyeSize * 1.1, Own.Base);
                 StrokeLine(G, Cx - Own.EyeSize * 1.1, Own.EyeY - Own.EyeSize * .3,
                            Cx + Own.EyeSize * 1.1, Own.EyeY - Own.EyeSize * .3, Dark(Own.Base, .5),
                            1.3);
@@ -425,19 +406,6 @@ static void DrawHair(QPainter& G, const Dog& Own)
         for (const auto& [X, Y, R] :
              Table<double, double, double>{{38, 20, 9}, {62, 20, 9}, {50, 13, 11}, {50, 23, 9}})
             Fill(G, Circle(X, Y, R), HairTint);
-    }
-    if (Own.Hair == "curly") {
-        const QColor HairTint = Colour(Own.R, "hairc", Own.Base);
-        const QColor Edge = HairTint.lightness() < 225 ? Dark(HairTint, .22) : QColor("#b3ae9c");
-        for (int I = 0; I < 15; ++I) {
-            double A = Radians(180 + I * 180 / 14.0);
-            Outline(G, Circle(50 + 38 * std::cos(A), 42 + 30 * std::sin(A), 8.5), HairTint, Edge,
-                    1.0);
-        }
-        for (int I = 0; I < 9; ++I) {
-            double A = Radians(200 + I * 140 / 8.0);
-            Outline(G, Circle(50 + 26 * std::cos(A), 34 + 16 * std::sin(A), 8), HairTint, Edge, .8);
-        }
     }
     if (Own.Hair == "bangs") {
         const QColor HairTint = Colour(Own.R, "hairc", Own.Base);
@@ -527,10 +495,6 @@ void DrawDog(QPainter& P, const Recipe& R)
     Points Rim = Named(Heads, Shape, R);
     for (std::size_t I = Rim.size() - 1; I-- > 1;) Rim.push_back({100 - Rim[I].x(), Rim[I].y()});
     const QPainterPath Head = ClosedCurve(Rim);
-    if (Has(R, "disc")) {
-        Fill(P, Circle(50, 50, 47),
-             Radial(50, 50, 50, {Light(Colour(R, "disc"), .55), Light(Colour(R, "disc"), .2)}));
-    }
     const double K = Number(R, "k", .95);
     const QStringList M = Words(R, "mark", "+");
     const QColor PatchTint = Colour(R, "patch", "#ffffff");

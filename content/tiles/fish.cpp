@@ -62,8 +62,7 @@ static void Fin(QPainter& G, const Fish& Own, const QString& Kind, bool Up)
 {
     const int Side = Up ? -1 : 1;
     const double Y0 = Own.Cy + Side * Own.Height * .4;
-    const QColor Tone =
-        Up ? Colour(Own.R, "dorsalc", Own.Tint3) : Colour(Own.R, "analc", Own.Tint3);
+    const QColor Tone = Up ? Colour(Own.R, "dorsalc", Own.Tint3) : Own.Tint3;
     QPainterPath Path;
     if (Kind == "low") {
         Path = ClosedCurve({{34, Y0 + Side * 1},
@@ -152,10 +151,6 @@ static void DrawTailFin(QPainter& G, const Fish& Own)
                             Own.Cy + Uniform(Chance, -20, 20) * Own.TailSize, 2.6),
                      Colour(Own.R, "tailspot"));
             }
-        }
-        if (Has(Own.R, "tailbar")) {
-            StrokeLine(G, Own.TailX + 12 * Own.TailSize, Own.Cy - 30, Own.TailX + 12 * Own.TailSize,
-                       Own.Cy + 30, Colour(Own.R, "tailbar"), 4);
         }
         G.restore();
     }
@@ -249,22 +244,7 @@ static void DrawPattern(QPainter& G, const Fish& Own)
             Fill(G, ClosedCurve({{46, 0}, {50, Own.Cy}, {44, 100}, {100, 100}, {100, 0}}, .4),
                  Own.Tint2);
         }
-        if (Kind == "mask") {
-            Fill(G, ClosedCurve({{0, 0}, {24, 0}, {27, Own.Cy}, {22, 100}, {0, 100}}, .4),
-                 Colour(Own.R, "maskc", Own.Tint2));
-        }
-        if (Kind == "eyeband")
-            StrokeLine(G, 20, Own.Cy - 30, 22, Own.Cy + 34, Colour(Own.R, "maskc", "#1a1a1a"), 6);
-        if (Kind == "back") {
-            Fill(G,
-                 ClosedCurve({{0, 0},
-                              {0, Own.Cy - 6},
-                              {40, Own.Cy - Own.Height * .12},
-                              {80, Own.Cy - 2},
-                              {100, 0}},
-                             .4),
-                 Own.Tint2);
-        }
+        if (Kind == "eyeband") StrokeLine(G, 20, Own.Cy - 30, 22, Own.Cy + 34, "#1a1a1a", 6);
         if (Kind == "line") {
             Stroke(G, Curve({{10, Own.Cy - 2}, {40, Own.Cy - 4}, {78, Own.Cy}}), Own.Tint2,
                    Number(Own.R, "sw", 5));
@@ -469,7 +449,6 @@ void DrawFish(QPainter& P, const Recipe& R)
     const QColor PecTint = Colour(R, "pecc", Tint3);
     const double EyeSize = Number(R, "er", Height > 24 ? 4.6 : 3.2);
     const double EyeY = Cy - Height * .14;
-    if (Has(R, "water")) Fill(P, Circle(50, 50, 48), Radial(50, 50, 52, {"#d8f3ff", "#a9dcf5"}));
     const Fish Own{R,      Tint1, Tint2,     Tint3,    Shape,    Height,  TailX, Cy,
                    Body,   Edge,  TailKind,  TailSize, TailTint, Tail,    Top,   Foot,
                    Dorsal, Anal,  BellyTint, HeadX,    PecTint,  EyeSize, EyeY,  Pts};

@@ -69,14 +69,6 @@ static void Ring(QPainter& G, const Flower& Own, double Cx, double Cy, double Co
                        Cx + L * .66 * std::cos(Rr), Cy + L * .66 * std::sin(Rr) * Sq,
                        Alpha(Colour(Own.R, "vein"), .7), 1.2);
         }
-        if (Has(Own.R, "tipc")) {
-            double Rr = Radians(A - 90);
-            G.save();
-            G.setClipPath(Path);
-            Fill(G, Circle(Cx + L * std::cos(Rr), Cy + L * std::sin(Rr) * Sq, L * .3),
-                 Alpha(Colour(Own.R, "tipc"), .8));
-            G.restore();
-        }
     }
 }
 
@@ -139,15 +131,11 @@ static void DrawFront(QPainter& G, const Flower& Own)
     if (Has(Own.R, "leaves"))
         for (const double A : {45, 135, 225, 315})
             Leaf(G, Own, 50 + 20 * std::sin(Radians(A)), 50 - 20 * std::cos(Radians(A)), 34, 11, A);
-    if (Has(Own.R, "back")) {
-        Ring(G, Own, 50, 50, Count, PetalKind, L, W, Text(Own.R, "back"), Text(Own.R, "back"),
-             1.0 * 180 / Count);
-    }
-    Ring(G, Own, 50, 50, Count, PetalKind, L, W, Own.C1, Own.Tint2, Number(Own.R, "rot", 0));
+    Ring(G, Own, 50, 50, Count, PetalKind, L, W, Own.C1, Own.Tint2, 0);
     for (int I = 1; I < Whole(Own.R, "layers", 1); ++I) {
         const double F = 1 - I * Number(Own.R, "shrink", .24);
-        Ring(G, Own, 50, 50, std::max<double>(4, Count - (Has(Own.R, "thin") ? I : 0)), PetalKind,
-             L * F, W * F, Has(Own.R, "fade") ? Mix(Own.C1, Own.Tint2, I * .16) : Own.C1, Own.Tint2,
+        Ring(G, Own, 50, 50, std::max<double>(4, Count), PetalKind, L * F, W * F,
+             Has(Own.R, "fade") ? Mix(Own.C1, Own.Tint2, I * .16) : Own.C1, Own.Tint2,
              1.0 * 180 / Count * (I % 2) + Number(Own.R, "twist", 0) * I);
     }
     if (Has(Own.R, "ct") || Has(Own.R, "cc"))
@@ -298,7 +286,7 @@ static void DrawLily(QPainter& G, const Flower& Own)
             Fill(G,
                  Circle(50 + R * std::cos(T + .12 * (std::fmod(R, 3) - 1)),
                         46 + R * std::sin(T + .12 * (std::fmod(R, 3) - 1)), 1.4),
-                 Colour(Own.R, "freckle", "#8a1a2a"));
+                 "#8a1a2a");
         }
     }
     for (int I = 0; I < 6; ++I) {

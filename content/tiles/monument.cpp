@@ -656,19 +656,6 @@ static void DrawRoundtower(QPainter& G, const Monument& Own)
     Ground(G);
 }
 
-static void DrawLonghouse(QPainter& G, const Monument& Own)
-{
-    Outline(G, ClosedCurve({{0, 66}, {10, 40}, {50, 30}, {90, 40}, {100, 66}}, .5), "#c8a050",
-            "#6a4a14", 1.6);
-    for (int X = 6; X < 98; X += 8)
-        StrokeLine(G, 50 + (X - 50) * .9, 34 + std::abs(X - 50) * .14, X, 66, "#8a6a24", 1.2);
-    Block(G, Own, 8, 64, 84, 28, "#8a5a30");
-    for (const double X : {8, 28, 68, 88}) Block(G, Own, X, 64, 4, 30, "#5a3416");
-    Arch(G, 42, 70, 16, 24, "#2a1408");
-    for (const double Side : {-1, 1})
-        StrokeLine(G, 50 + Side * 40, 46, 50 + Side * 50, 26, "#5a3416", 4);
-}
-
 static constexpr FigureRow<const Monument> Figures[] = {
     {"pyramid", DrawPyramid},
     {"sphinx", DrawSphinx},
@@ -706,7 +693,6 @@ static constexpr FigureRow<const Monument> Figures[] = {
     {"liberty", DrawLiberty},
     {"torii", DrawTorii},
     {"roundtower", DrawRoundtower},
-    {"longhouse", DrawLonghouse},
 };
 
 static void Draw(QPainter& G, const Monument& Own)
@@ -719,7 +705,7 @@ void DrawMonument(QPainter& P, const Recipe& R)
     const QString Kind = Text(R, "k");
     const QColor Tint = Colour(R, "c", "#e8d2a0");
     const QColor Edge = Dark(Tint, .55);
-    const QColor RoofTint = Colour(R, "r", "#b8482a");
+    const QColor RoofTint = "#b8482a";
     const Monument Own{R, Kind, Tint, Edge, RoofTint};
     const auto Drawing = [&](QPainter& G) { Draw(G, Own); };
     DrawFittedDraft(P, Drawing, 1.12);

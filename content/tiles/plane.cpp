@@ -438,30 +438,6 @@ static void DrawBalloon(QPainter& G, const Plane& Own)
     Outline(G, Rounded(42, 85, 16, 13, 2), "#a8702a", "#4a2a0a", 1.4);
 }
 
-static void DrawPara(QPainter& G, const Plane& Own)
-{
-    QPainterPath Path = ClosedCurve({{4, 40},
-                                     {20, 14},
-                                     {50, 4},
-                                     {80, 14},
-                                     {96, 40},
-                                     {82, 34},
-                                     {66, 40},
-                                     {50, 34},
-                                     {34, 40},
-                                     {18, 34}},
-                                    .5);
-    Outline(G, Path, Own.Tint, Own.Edge, 1.6);
-    G.save();
-    G.setClipPath(Path);
-    for (const double X : {2, 34, 66})
-        Fill(G, Polygon({{50, 0}, {X, 50}, {X + 16, 50}}), Own.Tint2);
-    G.restore();
-    for (const double X : {6, 20, 34, 50, 66, 80, 94}) StrokeLine(G, X, 38, 50, 78, "#5a5a5a", 1);
-    Outline(G, Circle(50, 80, 4.4), "#f0c090", "#5a3a1a", 1);
-    Outline(G, Rounded(46, 84, 8, 13, 3), "#2a4a8a", "#0a1a3a", 1);
-}
-
 static void DrawWingglider(QPainter& G, const Plane& Own)
 {
     Outline(G, Polygon({{50, 6}, {104, 64}, {50, 46}, {-4, 64}}), Own.Tint, Own.Edge, 1.6);
@@ -477,42 +453,14 @@ static void DrawWingglider(QPainter& G, const Plane& Own)
     Outline(G, Ellipse(50, 78, 5, 16), "#2a2a3a", "#000", 1);
 }
 
-static void DrawUfo(QPainter& G, const Plane&)
-{
-    Outline(G, Ellipse(50, 56, 48, 18), Linear(0, 40, 0, 74, {"#e8eef4", "#98a6b8", "#4a5668"}),
-            "#2a3240", 1.8);
-    Outline(G, ClosedCurve({{28, 50}, {34, 26}, {50, 18}, {66, 26}, {72, 50}, {50, 56}}),
-            Radial(42, 30, 34, {"#ffffff", "#8ae0ff", "#2a8ab8"}), "#12445a", 1.6);
-    for (const auto& [A, Tone] : Table<double, QColor>{{.2, "#ff4a4a"},
-                                                       {.9, "#ffd21c"},
-                                                       {1.57, "#4aff6a"},
-                                                       {2.24, "#ffd21c"},
-                                                       {2.94, "#ff4a4a"}})
-        Outline(G, Circle(50 + 36 * std::cos(A), 58 + 10 * std::sin(A), 3.4), Tone, "#333", .8);
-}
-
-static void DrawPaper(QPainter& G, const Plane&)
-{
-    Outline(G, Polygon({{50, 2}, {92, 92}, {56, 76}}),
-            Linear(50, 0, 90, 90, {"#ffffff", "#dfe7ee"}), "#7d8790", 1.6);
-    Outline(G, Polygon({{50, 2}, {8, 92}, {44, 76}}), Linear(50, 0, 8, 90, {"#f4f8fb", "#c4d0da"}),
-            "#7d8790", 1.6);
-    Outline(G, Polygon({{50, 2}, {56, 76}, {50, 98}, {44, 76}}), "#a8b6c2", "#6a747e", 1.4);
-}
-
 static constexpr FigureRow<const Plane> Figures[] = {
-    {"airliner", DrawAirliner}, {"fighter", DrawFighter},
-    {"delta", DrawDelta},       {"concorde", DrawConcorde},
-    {"flying", DrawFlying},     {"prop", DrawProp},
-    {"biplane", DrawBiplane},   {"triplane", DrawTriplane},
-    {"twin", DrawTwin},         {"bomber", DrawBomber},
-    {"glider", DrawGlider},     {"sea", DrawSea},
-    {"vtail", DrawVtail},       {"rocket", DrawRocket},
-    {"shuttle", DrawShuttle},   {"heli", DrawHeli},
-    {"tandem", DrawTandem},     {"drone", DrawDrone},
-    {"airship", DrawAirship},   {"balloon", DrawBalloon},
-    {"para", DrawPara},         {"wingglider", DrawWingglider},
-    {"ufo", DrawUfo},           {"paper", DrawPaper},
+    {"airliner", DrawAirliner}, {"fighter", DrawFighter},   {"delta", DrawDelta},
+    {"concorde", DrawConcorde}, {"flying", DrawFlying},     {"prop", DrawProp},
+    {"biplane", DrawBiplane},   {"triplane", DrawTriplane}, {"twin", DrawTwin},
+    {"bomber", DrawBomber},     {"glider", DrawGlider},     {"sea", DrawSea},
+    {"vtail", DrawVtail},       {"rocket", DrawRocket},     {"shuttle", DrawShuttle},
+    {"heli", DrawHeli},         {"tandem", DrawTandem},     {"drone", DrawDrone},
+    {"airship", DrawAirship},   {"balloon", DrawBalloon},   {"wingglider", DrawWingglider},
 };
 
 static void Draw(QPainter& G, const Plane& Own)

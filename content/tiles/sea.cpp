@@ -87,29 +87,6 @@ static void DrawRay(QPainter& G, const Sea& Own)
     Eye(G, Own, 58, 26, 3.4);
 }
 
-static void DrawJelly(QPainter& G, const Sea& Own)
-{
-    for (int I = 0; const double X : {26, 36, 46, 56, 66, 74}) {
-        Stroke(G, Curve({{X, 48}, {X + 5 * (I % 2 ? 1 : -1), 64}, {X - 4, 78}, {X + 3, 96}}),
-               Alpha(I % 2 ? Own.Tint : Light(Own.Tint, .4), .9), 3.4);
-        ++I;
-    }
-    Outline(G,
-            ClosedCurve({{12, 48},
-                         {16, 22},
-                         {50, 4},
-                         {84, 22},
-                         {88, 48},
-                         {76, 42},
-                         {64, 50},
-                         {50, 43},
-                         {36, 50},
-                         {24, 42}},
-                        .7),
-            Radial(42, 20, 56, {Light(Own.Tint, .65), Own.Tint}), Own.Edge, 1.8);
-    Fill(G, Ellipse(34, 22, 10, 6, -30), Alpha("#ffffff", .5));
-}
-
 static void DrawUrchin(QPainter& G, const Sea& Own)
 {
     for (int I = 0; I < 26; ++I) {
@@ -230,8 +207,7 @@ static void DrawEel(QPainter& G, const Sea& Own)
                                                     {50, 26},
                                                     {60, 23},
                                                     {68, 26}}) {
-        Fill(G, Circle(X + Uniform(Chance, -3, 3), Y + Uniform(Chance, -3, 3), 2.1),
-             Colour(Own.R, "c2", "#ffe24a"));
+        Fill(G, Circle(X + Uniform(Chance, -3, 3), Y + Uniform(Chance, -3, 3), 2.1), "#ffe24a");
     }
     Eye(G, Own, 78, 19, 4);
     StrokeLine(G, 80, 29, 94, 28, Own.Edge, 1.8);
@@ -286,9 +262,9 @@ static void DrawCoralfan(QPainter& G, const Sea& Own)
 
 static constexpr FigureRow<const Sea> Figures[] = {
     {"starfish", DrawStarfish}, {"seahorse", DrawSeahorse}, {"ray", DrawRay},
-    {"jelly", DrawJelly},       {"urchin", DrawUrchin},     {"nautilus", DrawNautilus},
-    {"scallop", DrawScallop},   {"weed", DrawWeed},         {"eel", DrawEel},
-    {"hermit", DrawHermit},     {"coralfan", DrawCoralfan},
+    {"urchin", DrawUrchin},     {"nautilus", DrawNautilus}, {"scallop", DrawScallop},
+    {"weed", DrawWeed},         {"eel", DrawEel},           {"hermit", DrawHermit},
+    {"coralfan", DrawCoralfan},
 };
 
 static void Draw(QPainter& G, const Sea& Own)

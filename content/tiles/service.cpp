@@ -121,7 +121,7 @@ static void DrawBadge(QPainter& G, const Service& Own)
                 Linear(0, 0, 100, 100, {Light(Tint, .5), Tint, Dark(Tint, .25)}), Dark(Tint, .6),
                 2);
         Outline(G, Circle(50, 50, 21), "#ffd23a", "#6a4a0a", 1.8);
-        DrawFitted(G, EmojiImage(Text(Own.R, "cp", "🔥")), QRectF(35, 35, 30, 30));
+        DrawFitted(G, EmojiImage("🔥"), QRectF(35, 35, 30, 30));
     }
 }
 

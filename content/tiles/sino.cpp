@@ -48,8 +48,8 @@ static void DrawSeal(QPainter& G, const Sino& Own)
     DrawFrame(G, "seal", Own.R);
     QPainterPath Path = Fitted(GlyphPath(FontFile::Brush, Text(Own.R, "cp").toUcs4().value(0)),
                                QRectF(15, 15, 70, 70));
-    Outline(G, Path, Colour(Own.R, "ink", "#fff6e0"), Colour(Own.R, "ink", "#fff6e0"), 1.5);
-    Stroke(G, Rounded(9, 9, 82, 82, 3), Colour(Own.R, "ink", "#fff6e0"), 2);
+    Outline(G, Path, "#fff6e0", "#fff6e0", 1.5);
+    Stroke(G, Rounded(9, 9, 82, 82, 3), "#fff6e0", 2);
 }
 
 static void DrawDiamondred(QPainter& G, const Sino& Own)

@@ -401,13 +401,6 @@ static void DrawStump(QPainter& G, Tree& Own)
     Outline(G, Ellipse(80, 24, 11, 5, -24), "#5ac04a", "#1e6a1a", 1);
 }
 
-static void DrawTopiary(QPainter& G, Tree& Own)
-{
-    Outline(G, Polygon({{30, 78}, {70, 78}, {64, 97}, {36, 97}}), "#c8603a", "#4a1a0a", 1.5);
-    StrokeLine(G, 50, 78, 50, 20, Own.Bark, 4);
-    Blobs(G, Own, {{50, 60, 16}, {50, 34, 12.5}, {50, 13, 9}});
-}
-
 static void DrawDragon(QPainter& G, Tree& Own)
 {
     Trunk(G, Own, 9, 54);
@@ -433,7 +426,7 @@ static constexpr FigureRow<Tree> Figures[] = {
     {"birch", DrawBirch},       {"cactus", DrawCactus},     {"bonsai", DrawBonsai},
     {"cedar", DrawCedar},       {"joshua", DrawJoshua},     {"bamboo", DrawBamboo},
     {"banana", DrawBanana},     {"mangrove", DrawMangrove}, {"monkey", DrawMonkey},
-    {"stump", DrawStump},       {"topiary", DrawTopiary},   {"dragon", DrawDragon},
+    {"stump", DrawStump},       {"dragon", DrawDragon},
 };
 
 static void Draw(QPainter& G, Tree& Own)
