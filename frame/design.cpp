@@ -98,4 +98,6 @@ void SetDesignCaptions()
         if (!E) FatalError(std::string("no element ") + Row.Name + " for a caption");
         SetCaption(*E, Row.Text);
     }
+    // A word grows letter by letter: no press may wait for the heap.
+    Elements[lblWord.Id].Caption.reserve(GameState.WordTiles.Last[0]);
 }

@@ -206,12 +206,6 @@ const Element* FindElement(std::string_view Name, int Index)
     return &Elements[Row->Id + Index - Row->First];
 }
 
-bool IsArray(std::string_view Name)
-{
-    const ElementRow* Row = FindRow(Name);
-    return Row && Row->Array;
-}
-
 bool IsShown(const Element& E)
 {
     for (const Element* Up = &E;; Up = &Elements[Up->Panel]) {
@@ -278,6 +272,12 @@ void SetCaption(const Element& E, std::string_view Text)
 {
     if (E.Caption == Text) return;
     Changeable(E).Caption = Text;
+    MarkStale(E);
+}
+
+void AddToCaption(const Element& E, std::string_view Text)
+{
+    Changeable(E).Caption += Text;
     MarkStale(E);
 }
 
@@ -361,18 +361,6 @@ void SetFocus(const Element& E)
 const Element* Focused()
 {
     return FocusId != NoElement && IsShown(Elements[FocusId]) ? &Elements[FocusId] : nullptr;
-}
-
-void ClearItems(const Element& E)
-{
-    SetItems(E, {});
-}
-
-void AddItem(const Element& E, std::string_view Item)
-{
-    Changeable(E).Items.emplace_back(Item);
-    ++Changeable(E).ItemsChanged;
-    MarkStale(E);
 }
 
 void SetItems(const Element& E, const std::vector<std::string>& Items)

@@ -119,7 +119,6 @@ void SetDesignCaptions();
 
 std::string ElementText(const Element& E);                    // "imgTile(5)", "picNote"
 const Element* FindElement(std::string_view Name, int Index); // nullptr; Index -1 for none
-bool IsArray(std::string_view Name);
 
 void SetVisible(const Element& E, bool Visible);
 inline void Show(const Element& E)
@@ -136,6 +135,7 @@ void SetPlace(const Element& E, float Left, float Top);
 void SetSize(const Element& E, float Width, float Height);
 void SetPicture(const Element& E, const Picture& New);
 void SetCaption(const Element& E, std::string_view Text);
+void AddToCaption(const Element& E, std::string_view Text);
 void SetCaption(const ElementArray& Shadowed, std::string_view Text); // both labels of a pair
 void SetInk(const Element& E, Colour New);
 void SetTag(const Element& E, std::string_view Tag);
@@ -150,8 +150,6 @@ void SetLine(const Element& E, int X1, int Y1, int X2, int Y2);
 void SetText(const Element& E, std::string_view Text);
 void SetFocus(const Element& E);
 const Element* Focused(); // a text box that is on the screen, or nullptr
-void ClearItems(const Element& E);
-void AddItem(const Element& E, std::string_view Item);
 void SetItems(const Element& E, const std::vector<std::string>& Items);
 // Selects the item without an event; a text that is no item selects nothing.
 void SelectItem(const Element& E, std::string_view Item);

@@ -20,8 +20,8 @@ void SetAllHandlers();
 
 // --- display.cpp: window and full screen, minimising, the ways out ---
 
-void SetWindowMode(int Index);            // a click on imgWindowMode(Index)
-void ShowWindowModeButton();              // the one that leads to the other mode
+void SetWindowMode(int Index); // a click on imgWindowMode(Index)
+void ShowWindowModeButton();   // the one that leads to the other mode
 // In the middle of a desktop of so many pixels.
 void CentreScreen(const Element& Screen, int Width, int Height);
 void MainScreen_KeyDown(std::string_view Key, bool Shift, bool Ctrl, bool Alt);

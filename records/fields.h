@@ -30,8 +30,8 @@ void Field32(RecordFile& File, int Offset, I32& Value, Legal Values = AnyNumber)
 // ends; bytes that are no characters count as blanks.
 void FieldText(RecordFile& File, int Offset, std::string& Text, int Width);
 
-// The first Size bytes of a file, never more. A file that is missing or cannot be read gives zeros; a missing
-// one is made, empty, if its folder stands.
+// The first Size bytes of a file, never more. A file that is missing or cannot be read gives zeros;
+// a missing one is made, empty, if its folder stands.
 RecordFile ReadRecordFile(const std::string& Path, int Size);
 RecordFile NewRecordFile(int Size);
 // Replaces the file by the content and by the further bytes of a longer file, which are kept only

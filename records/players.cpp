@@ -76,7 +76,7 @@ static void PutGraphOnPanel()
         for (int Place = 1; Place <= Places; ++Place)
             if (const int Colour = GraphColour(Layout, Place); Colour != 0)
                 Blocks.push_back({6 * Layout - 4, 14 * Place - 12, 6 * Layout - 1, 14 * Place - 1,
-                                 GameState.PlayerColour(Colour)});
+                                  GameState.PlayerColour(Colour)});
     SetBoxes(picGraph, std::move(Blocks));
 }
 

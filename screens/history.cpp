@@ -120,7 +120,7 @@ static void imgHisScores_Action(int)
 }
 static void imgHisProfile_Action(int)
 {
-    OpenProfile(&picHistory);
+    OpenProfile(picHistory);
 }
 
 void SetHistoryHandlers()

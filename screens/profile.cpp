@@ -40,13 +40,10 @@ void BuildProfile()
     BuildGameType();
 }
 
-void OpenProfile(const Element* Former)
+void OpenProfile(const Element& Former)
 {
     BuildProfile();
-    if (Former)
-        PassTo(picProfile, *Former);
-    else
-        OpenFromMenu(picProfile);
+    PassTo(picProfile, Former);
 }
 
 static void imgGraphType_Action(int I)

@@ -138,7 +138,7 @@ static void imgButHistoryScores_Action(int)
 }
 static void imgButProfileScores_Action(int)
 {
-    OpenProfile(&picScores);
+    OpenProfile(picScores);
 }
 
 void SetScoresHandlers()

@@ -56,8 +56,8 @@ void SetHistoryHandlers();
 
 // --- profile.cpp ---
 
-void BuildProfile(); // of the current game type: graph, players, statistics
-void OpenProfile(const Element* Former);
+void BuildProfile();                     // of the current game type: graph, players, statistics
+void OpenProfile(const Element& Former); // a record screen
 void SetProfileHandlers();
 
 // --- help.cpp ---

@@ -35,7 +35,7 @@ void AddLetter(int Tile)
     SetTileState(Tile, 2);
     ++GameState.WordTiles(0);
     GameState.WordTiles(GameState.WordTiles(0)) = Tile;
-    SetCaption(lblWord, lblWord.Caption + GameState.FaceLetter(TileFace(Tile)));
+    AddToCaption(lblWord, GameState.FaceLetter(TileFace(Tile)));
 }
 
 void ShowWordScore()

@@ -3,7 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
-constexpr int LargeLayout = 115;   // 288 tiles
+constexpr int LargeLayout = 115; // 288 tiles
 
 static void StartGameOn(int Number)
 {

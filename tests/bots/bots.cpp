@@ -1,15 +1,20 @@
 // bots.cpp: plays whole games through the handlers and checks the board after every event by other
-// means than the rules use. "bots GAMES [SEED]".
+// means than the rules use. "bots GAMES [SEED]" plays as fast as it can; "bots HOURS N [SEED]"
+// plays at a player's pace on a virtual clock, and the memory of the process must not grow.
+#include "media/media.h"
 #include "tests/common/game_dir.h"
 
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <iostream>
 #include <random>
 
 static std::mt19937 Chance;
 static long long Events = 0;
+static long long Now = 0; // the virtual clock, ms
+static int Pace = 0;      // ms between two presses
 static int LastScore = 0;
 
 [[noreturn]] static void Fail(const std::string& What)
@@ -102,14 +107,27 @@ static int Draw(int Count)
     return static_cast<int>(Chance() % static_cast<unsigned>(Count));
 }
 
+// Time between two presses: the clocks tick and tracks come to their ends.
+static void PassTime()
+{
+    constexpr long long TrackLength = 150000;
+    if (Now / TrackLength != (Now + Pace) / TrackLength) ActiveMP31_StateChange(3);
+    Now += Pace;
+    if (RunDueTimers(Now)) CheckBoard();
+    StaleRectangles().clear();
+}
+
 static void Press(const Element& E)
 {
+    if (Pace) PassTime();
     PressAt(E);
     CheckBoard();
 }
 
 static void PressTile(int Tile)
 {
+    if (Pace) PassTime();
+    if (GameState.GameRunning != 1) return; // the time was up
     imgTile_MouseMove(Tile, MouseButton::Left, 0, 0);
     CheckBoard();
     imgTile_MouseDown(Tile, MouseButton::Left, 0, 0);
@@ -205,17 +223,8 @@ static void PlayGame(int Type, int Group, int Number)
     Demand(!picBlack.Visible && !picContainer.Visible, "a panel stayed up after the game");
 }
 
-int main(int Count, char** Arguments)
+static void PrintSum(int Games, double Seconds)
 {
-    const int Games = Count > 1 ? std::atoi(Arguments[1]) : 500;
-    Chance.seed(Count > 2 ? static_cast<unsigned>(std::atoi(Arguments[2])) : 1);
-    BootGame();
-    Demand(frmMain.Visible, "the game did not come up");
-    const auto Start = std::chrono::steady_clock::now();
-    for (int Game = 0; Game < Games; ++Game)
-        PlayGame(1 + Draw(2), Game * 3 / std::max(1, Games), 1 + Draw(120));
-    const double Seconds =
-        std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count();
     int Won = 0, Lost = 0;
     for (int Index = 1; Index <= 360; ++Index) {
         Won += GameState.LayoutWon(Index);
@@ -224,6 +233,58 @@ int main(int Count, char** Arguments)
     std::cout << Games << " games, " << Events << " events, " << Won << " won, " << Lost
               << " lost, " << static_cast<int>(Games / Seconds * 60) << " games a minute"
               << std::endl;
+}
+
+static int MemoryNow() // KiB
+{
+    std::ifstream Status("/proc/self/status");
+    for (std::string Word; Status >> Word;)
+        if (Word == "VmRSS:") break;
+    int Size = 0;
+    Status >> Size;
+    return Size;
+}
+
+// The first hour may fill what is kept for good; after it the memory stands still.
+static int PlayHours(int Hours)
+{
+    constexpr long long Hour = 3600 * 1000;
+    constexpr int Slack = 256; // KiB: pages of the heap that are touched late
+    int Games = 0, AfterFirst = 0;
+    std::cout << "at the start " << MemoryNow() << " KiB" << std::endl;
+    const long long Start = Now;
+    for (int Past = 1; Past <= Hours; ++Past) {
+        for (; Now < Start + Past * Hour; ++Games) PlayGame(1 + Draw(2), Draw(3), 1 + Draw(120));
+        const int Memory = MemoryNow();
+        std::cout << "after hour " << Past << ", " << Games << " games, " << Events
+                  << " events: " << Memory << " KiB" << std::endl;
+        if (Past == 1) AfterFirst = Memory;
+        Demand(Memory <= AfterFirst + Slack, "the memory grows");
+    }
+    return Games;
+}
+
+int main(int Count, char** Arguments)
+{
+    const bool ByHours = Count > 2 && std::string(Arguments[1]) == "HOURS";
+    const int Games = Count > 1 ? std::atoi(Arguments[1]) : 500;
+    const int Seed = ByHours + 2;
+    Chance.seed(Count > Seed ? static_cast<unsigned>(std::atoi(Arguments[Seed])) : 1);
+    BootGame();
+    Now = 6100;
+    Platform.Milliseconds = [] { return Now; };
+    Demand(frmMain.Visible, "the game did not come up");
+    const auto Start = std::chrono::steady_clock::now();
+    int Played = 0;
+    if (ByHours) {
+        Pace = 1500;
+        Played = PlayHours(std::atoi(Arguments[2]));
+    } else {
+        for (; Played < Games; ++Played)
+            PlayGame(1 + Draw(2), Played * 3 / std::max(1, Games), 1 + Draw(120));
+    }
+    PrintSum(Played,
+             std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count());
     std::filesystem::remove_all(GameDirectory);
     return 0;
 }

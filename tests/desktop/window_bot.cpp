@@ -1,7 +1,8 @@
 // window_bot.cpp: plays "Bridges" in the real window with its eyes and a pointer. It sees
 // screenshots and knows the layout and the faces of the tile set; what lies where it finds out by
-// looking. At a dead end it mixes. "window-bot GAMEDIR OFFSET-X OFFSET-Y" prints how many tiles are
-// left when the game is won or lost.
+// looking. At a dead end it mixes. "window-bot GAMEDIR OFFSET-X OFFSET-Y [PATIENCE]" prints how
+// many tiles are left when the game is won or lost; with a PATIENCE of 20 it waits 20 times as long
+// for the window.
 #include "board/run_layouts.h"
 #include "frame/elements.h"
 
@@ -9,10 +10,12 @@
 #include <QImage>
 #include <QPainter>
 
+#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 constexpr int Bridges = 19;
@@ -35,9 +38,11 @@ static void Run(const std::string& Command)
     }
 }
 
+static int Patience = 1;
+
 static void Sleep(int Milliseconds)
 {
-    std::this_thread::sleep_for(std::chrono::milliseconds(Milliseconds));
+    std::this_thread::sleep_for(std::chrono::milliseconds(Milliseconds * Patience));
 }
 
 static void ClickAt(double X, double Y)
@@ -51,8 +56,11 @@ static QImage Look()
 {
     Run("xdotool mousemove 5 580");
     Sleep(120);
-    Run("import -window root bmp:/tmp/window-bot.bmp");
-    return QImage("/tmp/window-bot.bmp").convertToFormat(QImage::Format_RGB32);
+    const std::string File = "/tmp/window-bot-" + std::to_string(getpid()) + ".bmp";
+    Run("import -window root bmp:" + File);
+    const QImage Screen(QString::fromStdString(File));
+    std::remove(File.c_str());
+    return Screen.convertToFormat(QImage::Format_RGB32);
 }
 
 static void Press(const Element& E)
@@ -157,10 +165,11 @@ static void PlayPairs()
 
 int main(int Count, char** Arguments)
 {
-    if (Count != 4) {
-        std::cerr << "usage: window-bot GAMEDIR OFFSET-X OFFSET-Y" << std::endl;
+    if (Count != 4 && Count != 5) {
+        std::cerr << "usage: window-bot GAMEDIR OFFSET-X OFFSET-Y [PATIENCE]" << std::endl;
         return 2;
     }
+    if (Count == 5) Patience = std::atoi(Arguments[4]);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication Application(Count, Arguments);
     Faces =

@@ -51,6 +51,7 @@ TEST(Deal, ABoardWithoutAnOpenPairIsDealtAndOpensNoBox)
 
 TEST(ShuffleTiles, TakesTheCountOfTheLayout)
 {
+    InitElements();
     struct Case {
         int Group, Number, Tiles;
     };

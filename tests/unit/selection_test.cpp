@@ -208,3 +208,24 @@ TEST(PressOnBoard, DismissesTheTextNote)
     PressTile(1);
     EXPECT_FALSE(lblNote(0).Visible);
 }
+
+TEST(Hover, PaintsTheTwoTilesThatChangeAndNothingElse)
+{
+    StandTiles({{7, 2}, {8, 8}});
+    HoverTile(1);
+    StaleRectangles().clear();
+    HoverTile(2);
+    ASSERT_EQ(StaleRectangles().size(), 2U);
+    const int Changed[] = {2, 1}; // lit, then put back
+    for (int I = 0; I < 2; ++I) {
+        const Element& Tile = imgTile(Changed[I]);
+        const Rectangle& Stale = StaleRectangles()[static_cast<std::size_t>(I)];
+        EXPECT_EQ(Stale.Left, ScreenPlace(Tile).X);
+        EXPECT_EQ(Stale.Top, ScreenPlace(Tile).Y);
+        EXPECT_EQ(Stale.Width, Tile.Width);
+        EXPECT_EQ(Stale.Height, Tile.Height);
+    }
+    StaleRectangles().clear();
+    HoverTile(2); // the pointer moves on inside the tile
+    EXPECT_TRUE(StaleRectangles().empty());
+}

@@ -1,5 +1,6 @@
 // The dictionary that the game is played with, against a plain list of its words: the file is
 // decoded here from its first word block to its last, without the reader's search.
+#include "tests/common/count_allocations.h"
 #include "tests/words/dictionary_files.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +10,6 @@
 #include <map>
 #include <random>
 #include <unordered_set>
-
-extern std::size_t Allocations; // count_allocations.cpp
 
 struct PlainDictionary {
     std::vector<std::string> Words;

@@ -1,5 +1,7 @@
 // Counts what a program takes from the heap. In a file of its own, where no caller is compiled
 // together with it.
+#include "tests/common/count_allocations.h"
+
 #include <cstdlib>
 #include <new>
 
