@@ -104,10 +104,10 @@ enum class FontFile { Sans, SansBold, Serif, SerifBold, Emoji, Symbola, Maya, Ae
 QFont LoadFont(FontFile Which, double PixelSize);
 QPainterPath GlyphPath(FontFile Which, char32_t CodePoint);                   // 400 px to the em
 QPainterPath TextPath(FontFile Which, const QString& Text, double PixelSize); // base line at 0, 0
-QImage EmojiImage(const QString& Text);  // cropped, native size of about 128 px
+QImage EmojiImage(const QString& Text); // cropped, native size of about 128 px
 // PNG or SVG, cropped; SVG at 360 px. "file.svg#name" is one drawing of many.
 QImage PictureFile(const QString& Path);
-void FatalError(const QString& Text);    // to standard error, ends with status 1
+void FatalError(const QString& Text); // to standard error, ends with status 1
 
 // tile_body.cpp: the body of a tile in units of 60 by 60, as it stands on the board. The face lies
 // at the right and top; the walls run 7 to the left and down, where the layer beneath begins.
