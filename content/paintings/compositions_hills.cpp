@@ -499,26 +499,22 @@ void PaintDunes(Scene& P)
     static constexpr std::uint32_t Sands[] = {0xf0c890, 0xf4d8b0, 0xe8a870, 0xf0dcc0};
     const Rgb Sand = Hex(Sands[P.Seed % 4]);
     if (P.Seed % 3 == 0) Ranges(P, Hill::Alpine, 1, 60, H + 2, 0, 0);
-    std::vector<float> Crest;
-    for (int I = 0; I < 5; ++I) {
-        const float T = float(I) / 4;
+    const float Hand = P.Seed % 2 ? 1.0f : -1.0f;
+    for (int I = 0; I < 4; ++I) { // they come in from left and right in turn
+        const float T = float(I) / 3;
         HillLook Dune;
         Dune.Kind = Hill::Dune;
-        Dune.Foot = H + 20 + 190 * T * T + 40 * T,
-        Dune.Top = Dune.Foot - 44 - Any(P.C, 50, 110) * (0.4f + T);
-        Dune.Grain = (190 + 260 * T) * Any(P.C, 0.8f, 1.3f), Dune.Far = 1.3f * (1 - T) + 0.05f,
-        Dune.Local = Times(Sand, 1.05f), Dune.Mist = 0.3f * (1 - T);
-        Crest = PaintHill(P, Dune);
-        if (I == 2) {
-            PaintMotif(P, P.Plan.Motif, 500, CrestAtX(Crest, 500) + 8, 74, 0.5f);
-            if (P.Plan.Life == "camels") PaintLife(P, Dune.Foot - 60);
+        Dune.Foot = H + 26 + (Height - H) * std::pow(T, 1.3f),
+        Dune.Top = H - 22 + 0.36f * (Height - H) * T - 30 * T * Any(P.C);
+        Dune.Grain = (180 + 300 * T) * Any(P.C, 0.8f, 1.3f), Dune.Far = 1.2f * (1 - T) + 0.05f,
+        Dune.Local = Sand, Dune.Mist = 0.4f * (1 - T);
+        if (I) Dune.Centre = 360 + Hand * (I % 2 ? 300.0f : -300.0f), Dune.Spread = 420;
+        const std::vector<float> Crest = PaintHill(P, Dune);
+        if (I == 1) {
+            const float X = 360 - Hand * Any(P.C, 120, 220);
+            PaintMotif(P, P.Plan.Motif, X, CrestAtX(Crest, X) + 10, 74, 0.5f);
         }
-        for (int K = 0; K < 60; ++K) { // ripples of the wind
-            const float X = Any(P.C, 0, 720), Y = CrestAtX(Crest, X) + Any(P.C, 8, 90),
-                        L = Any(P.C, 12, 60) * (0.4f + T);
-            Stroke(P.C, Curve({{X - L, Y + 3}, {X, Y}, {X + L, Y + 5}}, 4), 0.6f + 0.6f * T, 0.4f,
-                   Lit(P, Sand, K % 2 ? 1.0f : 0.2f, Dune.Far), 0.28f);
-        }
+        if (I == 2 && P.Plan.Life == "camels") PaintLife(P, CrestAtX(Crest, 360) + 8);
     }
     if (P.Plan.Life != "camels") PaintLife(P, 370);
     Grasses(P, 30, 120, 408, 40, 40, Hex(0xa8a060), 0);

@@ -112,6 +112,27 @@ void PaintGlitter(Scene& P, float From, float To, float Strength)
     }
 }
 
+// Blades of grass, or drifted snow: what tells how near the ground is.
+static void Turf(Scene& P, const Mask& Area, float Horizon)
+{
+    for (int I = 0; I < 2600; ++I) {
+        const float T = std::sqrt(Any(P.C)), X = Any(P.C, 0, Width), Y = Lerp(Horizon + 6, Height, T);
+        const std::size_t Place = std::size_t(std::clamp(int(Y), 0, Height - 1) * Width + int(X));
+        if (Area[Place] < 0.5f || Noise(X / (16 + 60 * T), Y / (5 + 22 * T), P.Seed + 745) < 0.4f)
+            continue;
+        const float Value = Any(P.C, 0.72f, 1.3f), Lean = AnyBell(P.C) * 0.5f;
+        const Rgb Here = P.C.Px[Place];
+        if (P.Snow)
+            Dab(P.C, X, Y, 5 + 36 * T * Any(P.C), 0.8f + 2 * T, Lean * 0.1f,
+                Value > 1 ? Mix(Here, Lit(P, Hex(0xfaf8ff), 1, 0.1f), 0.35f)
+                          : Mix(Here, Lit(P, Hex(0x8ca4cc), 0.3f, 0.2f), 0.35f),
+                0.6f, true);
+        else
+            Dab(P.C, X, Y, (2 + 11 * T) * Any(P.C, 0.6f, 1.2f), 0.7f + 1.5f * T, Pi / 2 + Lean,
+                Times(Here, Value), 0.75f, true);
+    }
+}
+
 void PaintMeadow(Scene& P, const Mask* Area, float Horizon, Rgb Near, Rgb Distant, float Patches)
 {
     const std::uint32_t Seed = P.Seed + 740;
@@ -124,20 +145,24 @@ void PaintMeadow(Scene& P, const Mask* Area, float Horizon, Rgb Near, Rgb Distan
             const float U = (float(X) - 360) * Z / 60, V = Z * 5;
             const float Large = Fbm(U * 0.8f, V * 0.9f, 3, Seed),
                         Small = Fbm(U * 5, V * 4, 3, Seed + 1);
-            const float Drift = Fbm(float(X) / 190, float(Y) / 60, 3, Seed + 2);
+            // shadows of clouds lie long and flat over it
+            const float Drift =
+                Fbm(float(X) / 330 + 0.5f * Large, float(Y) / (14 + 60 * Close), 2, Seed + 2);
             Rgb Local = Mix(Distant, Near, Clamp(Close + 0.5f * (Large - 0.5f) * Patches));
-            Local = Mix(Local, P.Snow ? Hex(0x9cb0cc) : Hex(P.S->GrassDry),
+            Local = Mix(Local, P.Snow ? Hex(0xa8bad4) : Hex(P.S->GrassDry),
                         Clamp(Patches * (Large - 0.42f) * 1.6f));
-            Local = Times(Local, 0.86f + 0.28f * Small);
-            const float Shade = Clamp(0.55f + 0.9f * (Drift - 0.5f) + 0.3f * (Small - 0.5f));
+            Local = Times(Local, 0.88f + 0.24f * Small);
+            const float Shade = Clamp(0.42f + 0.30f * Smooth(0.40f, 0.56f, Drift) +
+                                      0.3f * (Small - 0.5f) + 0.08f * SunSide(P, float(X)));
             const std::size_t I = std::size_t(Y * Width + X);
-            Blend(P.C, X, Y, Lit(P, Local, Shade, 0.75f * (1 - Close) * (1 - Close)),
+            Blend(P.C, X, Y, Lit(P, Local, Shade, 0.85f * (1 - Close) * (1 - Close)),
                   Cover(Area, X, Y));
             Covered[I] = Cover(Area, X, Y);
-            P.C.Flow[I] = (Drift - 0.5f) * 1.5f;
+            P.C.Flow[I] = (Drift - 0.5f) * 0.8f;
         }
     }
     Repaint(P.C, &Covered, {{5, 5, -1, 0.06f}, {2.4f, 5, 0.08f, 0.05f}});
+    if (Patches > 0.65f) Turf(P, Covered, Horizon);
 }
 
 void PaintRows(Scene& P, const Mask* Area, float Horizon, float VanishX, float Spacing, Rgb Crop,

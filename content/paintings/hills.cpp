@@ -17,35 +17,13 @@ Rgb WoodColour(const Scene& P)
     return Mix(Hex(P.S->LeafMid), Hex(P.S->Grass), 0.4f);
 }
 
-// The summit that rules at U, one to a unit: how high its flank is, and how far to the side we are.
-struct Summit {
-    float Share, Offset;
-};
-
-static Summit SummitAt(float U, std::uint32_t Seed)
-{
-    Summit Best{0, 0};
-    for (int I = -2; I <= 2; ++I) {
-        const float Cell = std::floor(U) + float(I),
-                    Apex = Cell + 0.15f + 0.7f * Noise(Cell + 0.5f, 1.5f, Seed);
-        const float Tall = 0.35f + 0.65f * Noise(Cell + 0.5f, 7.5f, Seed), Off = U - Apex;
-        const float Steepness = (Off < 0 ? 0.7f : 1.0f) + 0.5f * Noise(Cell + 0.5f, 4.5f, Seed);
-        const float Share = Tall - std::fabs(Off) * Steepness * (1 - 0.25f * Clamp(std::fabs(Off)));
-        if (Share > Best.Share) Best = {Share, Off};
-    }
-    return Best;
-}
-
 // Share of the height, 0 to 1, that the crest reaches at X.
-static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_t Seed)
+static float CrestAt(const HillLook& Look, float X, std::uint32_t Seed)
 {
     const float U = X / Look.Grain;
     switch (Look.Kind) {
     case Hill::Soft:
         return 0.15f + 0.85f * Fbm(U * 0.8f, 0.3f, 4, Seed);
-    case Hill::Alpine:
-        return 0.06f + 0.78f * SummitAt(U, Seed).Share +
-               0.20f * (Fbm(U * 4.2f, 2, 5, Seed + 1) - 0.35f);
     case Hill::Karst: {
         const float Cell = std::floor(U), In = U - Cell;
         const float Tall = 0.3f + 0.7f * Noise(Cell * 1.7f + 0.5f, 3.3f, Seed);
@@ -58,14 +36,6 @@ static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_
         const float Step = Smooth(0.44f, 0.48f, F) * 0.55f + Smooth(0.55f, 0.575f, F) * 0.35f;
         return 0.08f + Step + 0.05f * Fbm(U * 7, 3, 3, Seed + 1);
     }
-    case Hill::Dune: {
-        const float Bent = U + 0.35f * Noise(U * 0.6f, 3, Seed), In = Bent - std::floor(Bent);
-        const float Tall = 0.35f + 0.65f * Noise(std::floor(Bent) + 0.5f, 5.5f, Seed);
-        // a long windward slope and a short lee one, both hollow
-        const float Shape =
-            In < 0.66f ? std::pow(In / 0.66f, 1.5f) : std::pow((1 - In) / 0.34f, 1.25f);
-        return 0.1f + 0.85f * Tall * Shape + 0.25f * Noise(U * 0.8f, 9, Seed);
-    }
     case Hill::Cone: {
         const float Off = std::fabs(X - Look.Centre) / Look.Grain;
         const float Slope = std::exp(-Off * 1.55f);
@@ -76,31 +46,131 @@ static float CrestAt(const Scene& P, const HillLook& Look, float X, std::uint32_
         const float F = Fbm(U * 0.7f, 0.4f, 3, Seed);
         return 0.35f + 0.5f * Smooth(0.35f, 0.6f, F) + 0.1f * Fbm(U * 5, 1, 4, Seed + 1);
     }
+    default: // painted from a terrain
+        return 0;
     }
-    return P.Horizon; // not reached
+}
+
+// Terrain: mountains and dunes are true landscapes, worked out from the front to the back, so that
+// ridges run down from the summits, hide each other and have a sunny and a shaded side.
+// Height of the ground, about 0 to 1; U in summits to the side, V 0 at the foot to 1 at the back.
+static float MountainAt(float U, float V, std::uint32_t Seed)
+{
+    const float Bent = 0.8f * Fbm(U * 0.8f, V * 1.6f, 2, Seed + 1);
+    const float Rise = Smooth(-0.25f, 0.75f, V) * (1 - 0.6f * Smooth(0.8f, 1.15f, V));
+    const float Massif = 0.25f + 0.75f * Smooth(0.1f, 0.9f, Noise(U * 1.1f + 7, V * 1.1f, Seed + 2));
+    return Rise * Massif * (0.16f + 0.84f * Ridged(U * 0.95f + Bent, V * 1.5f + Bent, 5, Seed));
+}
+
+static float DuneAt(float U, float V, std::uint32_t Seed)
+{
+    const float Bent = 1.3f * Noise(U * 0.7f, V * 1.3f, Seed) + 0.16f * Noise(U * 2.1f, V * 4, Seed);
+    const float Place = U * 0.6f + V * 1.3f + Bent, In = Place - std::floor(Place);
+    const float Tall = 0.4f + 0.6f * Noise(U * 0.7f + 3, std::floor(Place) + 0.5f, Seed + 1);
+    // a long hollow windward slope up to an edge, and a short slip beyond it
+    const float Shape = In < 0.72f ? std::pow(In / 0.72f, 1.7f) : Smooth(1, 0.70f, In);
+    return 0.2f * V + 0.8f * Tall * Shape * Smooth(-0.02f, 0.3f, V);
+}
+
+static std::vector<float> PaintTerrain(Scene& P, const HillLook& Look, std::uint32_t Seed)
+{
+    constexpr int Depth = 150; // steps from the foot to the back
+    const bool Dune = Look.Kind == Hill::Dune;
+    const float Rise = Look.Foot - Look.Top, Lay = Rise * (Dune ? 0.42f : 0.18f);
+    std::vector<float> Heights(std::size_t(Width + 1) * (Depth + 1));
+    const auto Ground = [&](int X, int Z) -> float& {
+        return Heights[std::size_t(Z * (Width + 1) + X)];
+    };
+    float Highest = 0.05f;
+    for (int Z = 0; Z <= Depth; ++Z)
+        for (int X = 0; X <= Width; ++X) {
+            const float U = (float(X) + 2000) / Look.Grain, V = float(Z) / Depth;
+            const float Off = (float(X) - Look.Centre) / Look.Spread;
+            Ground(X, Z) =
+                (Dune ? DuneAt(U, V, Seed) : MountainAt(U, V, Seed)) * std::exp(-Off * Off);
+            Highest = std::max(Highest, Ground(X, Z) + V * Lay / Rise);
+        }
+    const float Scale = Rise / Highest; // the highest summit stands at Top, wherever chance put it
+    const Rgb Haze = Hex(P.L->Haze), White = Hex(0xf4f8ff), Woods = WoodColour(P);
+    std::vector<float> Crest(Width, Look.Foot);
+    Mask Covered(Width * Height, 0.0f);
+    const Rgb Below = Mix(Lit(P, Look.Local, 0.45f, Look.Far), Haze, Look.Mist * 0.85f);
+    const float Side = P.SunX > 360 ? -1.0f : 1.0f; // slopes that fall towards the sun are lit
+    for (int X = 0; X < Width; ++X) {
+        for (int Y = std::max(0, int(Look.Foot)); Y < Height; ++Y) At(P.C, X, Y) = Below;
+        float& Top = Crest[std::size_t(X)];
+        for (int Z = 0; Z < Depth; ++Z) {
+            const float V = float(Z) / Depth, Here = Ground(X, Z);
+            const float Y = Look.Foot - (Here + V * Lay / Rise) * Scale;
+            if (Y >= Top) continue;
+            // the fall of the ground to the side and towards us
+            const int Left = std::max(X - 3, 0), Right = std::min(X + 3, Width);
+            float Fall = (Ground(Right, Z) - Ground(Left, Z)) * Rise / float(Right - Left) *
+                               (Dune ? 2.4f : 1.3f);
+            const float Back = (Ground(X, std::min(Z + 3, Depth)) - Ground(X, std::max(Z - 3, 0))) *
+                               (Dune ? 5 : 3.5f);
+            if (Back < 0 && Dune) Fall *= Smooth(-0.6f, 0, Back); // we see the edge of it only
+            const float Norm = std::sqrt(1 + Fall * Fall + Back * Back);
+            const float Sun = (Side * Fall * 0.9f - std::max(Back, 0.0f) * 0.16f + 0.40f) / Norm;
+            float Shade = Clamp(0.26f + 0.85f * Sun);
+            const float FX = float(X), Flat = 1 / Norm, High = Here * Scale / Rise;
+            const float Mottle = Fbm(FX / 9, V * 60, 3, Seed + 3);
+            Rgb Local = Times(Look.Local, 0.84f + 0.32f * Mottle);
+            if (Look.Trees > 0) {
+                const float Wooded = Smooth(0.75f, 0.55f, High + 0.5f * (Mottle - 0.5f)) *
+                                     Smooth(0.25f, 0.5f, Flat + 0.3f * Look.Trees);
+                Local = Mix(Local, Times(Woods, 0.5f + 0.5f * Mottle), 0.85f * Wooded);
+            }
+            if (Look.Snow > 0) { // it slides off what is steep
+                const float Cover = Smooth(-0.10f, 0.10f,
+                                           High - (1 - Look.Snow) * 0.95f + 0.9f * (Flat - 0.66f) +
+                                               0.35f * (Mottle - 0.5f));
+                Local = Mix(Local, White, 0.94f * Cover);
+                Shade = Lerp(Shade, Clamp(0.16f + 0.95f * Shade), Cover);
+            }
+            Rgb Colour = Lit(P, Local, Shade, Look.Far + 0.35f * Look.Mist * V);
+            for (int PY = std::max(0, int(Y)); PY < int(Top) + 1 && PY < Height; ++PY) {
+                const float Low = Smooth(0.55f, -0.05f, (Look.Foot - float(PY)) / Rise);
+                const std::size_t I = std::size_t(PY * Width + X);
+                Blend(P.C, X, PY, Mix(Colour, Haze, Look.Mist * 0.85f * Low),
+                      Clamp(float(PY) + 1 - Y));
+                Covered[I] = 1;
+                P.C.Flow[I] = Dune ? 0.12f : Pi / 2 + Clamp(Fall, -1.2f, 1.2f) * 0.8f;
+            }
+            Top = Y;
+        }
+    }
+    const float Broad = Clamp(4.2f - 1.1f * Look.Far, 2.0f, 4.5f);
+    Repaint(P.C, &Covered, {{Broad, 4, -1, 0.04f}, {Broad * 0.5f, 4, 0.06f, 0.03f}});
+    return Crest;
 }
 
 std::vector<float> PaintHill(Scene& P, const HillLook& Look)
 {
     const std::uint32_t Seed = P.Seed + std::uint32_t(Look.Foot * 7 + Look.Top * 3);
+    if (Look.Kind == Hill::Alpine || Look.Kind == Hill::Dune) {
+        const std::vector<float> Crest = PaintTerrain(P, Look, Seed);
+        if (Look.Trees > 0 && Look.Kind == Hill::Alpine && Look.Far < 1)
+            Wood(P, std::vector<float>(Width, Look.Foot - 2), 0, Width, 11 - 4 * Look.Far,
+                 Look.Far, Look.Trees);
+        return Crest;
+    }
     const float Rise = Look.Foot - Look.Top;
-    std::vector<float> Crest(Width), Offsets(Width);
+    std::vector<float> Crest(Width);
     float Highest = 0.05f;
     for (int X = 0; X < Width; ++X) {
-        float Share = CrestAt(P, Look, float(X) + 2000, Seed);
-        if (Look.Kind == Hill::Cone) Share = CrestAt(P, Look, float(X), Seed);
-        if (Look.Kind == Hill::Alpine)
-            Offsets[std::size_t(X)] = SummitAt((float(X) + 2000) / Look.Grain, Seed).Offset;
+        float Share = CrestAt(Look, float(X) + 2000, Seed);
+        if (Look.Kind == Hill::Cone) Share = CrestAt(Look, float(X), Seed);
         const float Off = (float(X) - Look.Centre) / Look.Spread;
         if (Look.Kind != Hill::Cone) Share *= std::exp(-Off * Off);
         Crest[std::size_t(X)] = Share;
         Highest = std::max(Highest, Share);
     }
     // the highest crest stands at Top, wherever chance has put it
-    const float Stretch = Look.Kind == Hill::Alpine || Look.Kind == Hill::Karst ? 1 / Highest : 1;
+    const float Stretch = Look.Kind == Hill::Karst ? 1 / Highest : 1;
     for (float& Y : Crest) Y = Look.Foot - Rise * Y * Stretch;
-    const bool Steep = Look.Kind == Hill::Alpine || Look.Kind == Hill::Cone ||
-                       Look.Kind == Hill::Karst || Look.Kind == Hill::Cliff;
+    const bool Steep =
+        Look.Kind == Hill::Cone || Look.Kind == Hill::Karst || Look.Kind == Hill::Cliff;
     Mask Covered(Width * Height, 0.0f);
     const Rgb Below = Mix(Lit(P, Look.Local, 0.45f, Look.Far), Hex(P.L->Haze), Look.Mist * 0.85f);
     const Rgb White = Hex(0xf4f8ff), Woods = WoodColour(P);
@@ -122,18 +192,6 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
             };
             const float Slope = (Height2(-3) - Height2(3)) * (Steep ? 1.6f : 2.4f);
             float Shade = 0.50f + Side * -Slope - 0.10f * Clamp(Down / (Rise + 1));
-            if (Look.Kind ==
-                Hill::Dune) { // the crest winds down the slope, light on one side of it
-                const float Wind =
-                    0.75f * Down + 22 * (Noise(Down / 36, FX / 400, Seed + 7) - 0.5f);
-                const auto CrestNear = [&](float Offset) {
-                    return Crest[std::size_t(std::clamp(int(FX + Wind + Offset), 0, Width - 1))];
-                };
-                const float Rise2 = (CrestNear(7) - CrestNear(-7)) / 13;
-                Shade = 0.58f +
-                        Clamp(Side * Rise2 * 1.2f, -0.46f, 0.42f) * Smooth(Rise * 1.4f, 0, Down) +
-                        0.05f * std::sin(Down * 0.8f + 6 * Noise(FX / 60, FY / 30, Seed));
-            }
             if (Look.Kind == Hill::Mesa) // layers of stone
                 Shade += 0.22f * (Noise(FX / 160, FY / 3.2f, Seed + 9) - 0.5f) -
                          0.18f * Smooth(4, 0, Down);
@@ -142,13 +200,6 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
                                   1.6f * (Fbm(FX / 30, FY / 40, 3, Seed + 7) - 0.5f);
                 Shade =
                     0.5f + 0.34f * Clamp(P.SunX > Look.Centre ? Rib : -Rib, -1, 1) - Slope * 0.5f;
-            }
-            if (Look.Kind == Hill::Alpine) { // lit and shaded flanks of each summit
-                const float Rib = Offsets[std::size_t(X)] +
-                                  (0.10f + 0.0016f * Down) * 2.4f *
-                                      (Fbm(FX / (Look.Grain * 0.22f), FY / 34, 3, Seed + 7) - 0.5f);
-                Shade = 0.52f + 0.34f * Clamp(Rib * (P.SunX > FX ? 16.0f : -16.0f), -1, 1) -
-                        Side * Slope * 0.7f;
             }
             Rgb Local = Times(Look.Local, 0.88f + 0.24f * Fbm(FX / 26, FY / 14, 3, Seed + 2));
             if (Look.Trees > 0) {

@@ -196,24 +196,24 @@ void PaintCloudSea(Scene& P, float Horizon, float To)
     Repaint(P.C, &Covered, {{6, 5, -1, 0.03f}, {3, 5, 0.06f, 0.02f}});
 }
 
+// Shafts of light, nearly parallel since the sun is far, soft at their edges and broken by the air.
 void PaintRays(Scene& P, float Strength)
 {
-    const Rgb Shine = Mix(Hex(P.L->Horizon), Hex(0xffffff), 0.3f);
-    for (int Y = 0; Y < Height; ++Y) {
+    const Rgb Shine = Mix(Hex(P.L->Horizon), Hex(P.L->OrbSize > 0 ? P.L->Orb : 0xffffff), 0.5f);
+    const float Away = 300, Sway = (360 - P.SunX) * 0.5f; // the source lies beyond the canvas
+    for (int Y = 0; Y < Height; ++Y)
         for (int X = 0; X < Width; ++X) {
-            const float DX = float(X) - P.SunX, DY = float(Y) - P.SunY + 40;
-            const float Angle = std::atan2(DX, DY), Long = std::sqrt(DX * DX + DY * DY);
-            const float Beam = Smooth(0.52f, 0.78f, Noise(Angle * 9, 0.5f, P.Seed + 70)) *
-                               (0.6f + 0.4f * Noise(Angle * 31, 0.5f, P.Seed + 71));
-            const float A = Strength * Beam * std::exp(-Long / 330) * Smooth(10, 60, Long) *
-                            (DY > -30 ? 1.0f : 0.3f);
-            if (A > 0.004f) {
-                Rgb& Px = At(P.C, X, Y);
-                Px = Plus(Px, Times(Shine, A * 0.6f));
-                Px = Mix(Px, Shine, A * 0.3f);
-            }
+            const float DX = float(X) - P.SunX + Sway, DY = float(Y) - P.SunY + Away;
+            const float Angle = std::atan2(DX, DY), Off = (float(X) - P.SunX) / 300;
+            const float Beam = 0.7f * Smooth(0.45f, 0.85f, Noise(Angle * 17, 0.5f, P.Seed + 70)) +
+                               0.3f * Smooth(0.4f, 0.8f, Noise(Angle * 47, 0.5f, P.Seed + 71));
+            const float Air = 0.55f + 0.6f * Fbm(float(X) / 110, float(Y) / 130, 3, P.Seed + 72);
+            const float A = Strength * Beam * Air * std::exp(-Off * Off) *
+                            Smooth(Height + 40.0f, 150, float(Y)) *
+                            Smooth(-60, 60, float(Y) - P.SunY);
+            Rgb& Px = At(P.C, X, Y);
+            Px = Mix(Plus(Px, Times(Shine, A * 0.38f)), Shine, A * 0.22f);
         }
-    }
 }
 
 static void PaintRain(Scene& P)
