@@ -464,35 +464,50 @@ void PaintMotif(Scene& P, const std::string& Name, float X, float Y, float Tall,
     }
 }
 
+// A house seen over its corner: the long side with its roof, and a gable.
 void Cottage(Scene& P, float X, float Y, float Tall, float Far, int Kind)
 {
     static constexpr Rgb Walls[] = {
         Plaster, {0.80f, 0.66f, 0.48f}, {0.86f, 0.80f, 0.72f}, {0.72f, 0.52f, 0.40f}};
+    const float Hand = Kind % 4 < 2 ? 1.0f : -1.0f; // where the gable is
     Draw(P.C, [&](QPainter& Q) {
         const Sketch S{P, Q, X, Y, Tall, Far, P.SunX > X ? 1.0f : -1.0f};
         const float Half = 0.55f + 0.12f * float(Kind % 3);
-        Box(S, -Half, 0, Half, 0.48f, Walls[Kind % 4], 0.55f);
-        if (Tall > 14)
-            for (int I = -1; I <= 1; ++I)
-                Window(S, float(I) * Half * 0.55f, I == 0 ? 0.0f : 0.14f, I == 0 ? 0.16f : 0.17f,
-                       I == 0 ? 0.32f : 0.18f);
-        else
-            Window(S, 0, 0.1f, 0.3f, 0.22f);
         if (Kind % 3 == 2) {
+            Box(S, -Half, 0, Half, 0.48f, Walls[Kind % 4], 0.55f);
             SwungRoof(S, 0, 0.44f, Half + 0.2f, Half * 0.6f, 0.5f, SlateTile);
         } else {
+            const float Corner = Half * 0.30f, Apex = (Corner + Half) / 2;
+            const float Lee = Hand * S.Side; // is the gable on the side of the light?
+            const auto Turned = [&](Line Outline) {
+                for (Point& K : Outline) K.X *= Hand;
+                return Outline;
+            };
             const Rgb Cover = P.Snow ? Hex(0xf0f4fa) : Kind % 3 ? ClayTile : Thatch;
+            Fill(S, Turned({{-Half, 0}, {-Half, 0.46f}, {Corner, 0.46f}, {Corner, 0}}),
+                 Walls[Kind % 4], 0.5f - 0.08f * Lee);
+            Fill(S, Turned({{Corner, 0}, {Corner, 0.46f}, {Apex, 0.94f}, {Half, 0.46f}, {Half, 0}}),
+                 Walls[Kind % 4], 0.5f + 0.22f * Lee);
             Fill(S,
-                 {{-Half - 0.12f, 0.44f},
-                  {-Half * 0.62f, 1.0f},
-                  {Half * 0.62f, 1.0f},
-                  {Half + 0.12f, 0.44f}},
-                 Cover, 0.58f);
-            Bar(S, {{-Half - 0.12f, 0.44f}, {Half + 0.12f, 0.44f}}, 0.05f, Times(Cover, 0.5f),
-                0.3f);
+                 Turned({{-Half - 0.10f, 0.40f},
+                         {-Half + 0.12f, 1.0f},
+                         {Apex + 0.02f, 1.0f},
+                         {Corner - 0.05f, 0.40f}}),
+                 Cover, 0.56f - 0.10f * Lee);
+            Bar(S, Turned({{Apex, 0.99f}, {Half + 0.10f, 0.38f}}), 0.07f, Times(Cover, 0.8f), 0.6f);
+            Bar(S, Turned({{-Half - 0.10f, 0.40f}, {Corner - 0.05f, 0.40f}}), 0.04f,
+                Times(Cover, 0.5f), 0.3f);
+            if (Tall > 14) Window(S, Hand * Apex, 0.22f, 0.13f, 0.20f);
         }
+        if (Tall > 14)
+            for (int I = -1; I <= 1; ++I)
+                Window(S, -Hand * Half * 0.28f + float(I) * Half * 0.40f, I == 0 ? 0.0f : 0.14f,
+                       0.15f, I == 0 ? 0.30f : 0.17f);
+        else
+            Window(S, 0, 0.1f, 0.3f, 0.22f);
         if (Kind % 2 && !P.Ink)
-            Box(S, Half * 0.3f, 0.85f, Half * 0.3f + 0.12f, 1.16f, Hex(0x8c5c48), 0.5f);
+            Box(S, -Hand * Half * 0.3f, 0.85f, -Hand * Half * 0.3f + 0.12f, 1.16f, Hex(0x8c5c48),
+                0.5f);
     });
     WindowGlow(P, X, Y - Tall * 0.25f, Tall * 0.9f);
 }
@@ -522,15 +537,16 @@ void Bridge(Scene& P, float X0, float X1, float Y, float Rise, float Far, bool O
             const float T = float(I) / 24 - 0.5f;
             Outline.push_back({T, Deck(T)});
         }
-        if (OfStone) { // one round arch that mirrors into a full moon
-            const float Arch = std::min(R * 0.78f, 0.24f);
+        if (OfStone) { // round arches that mirror into full moons, the middle one the highest
             Outline.push_back({0.5f, -0.02f});
-            Outline.push_back({Arch * 1.05f, -0.02f});
-            for (int I = 0; I <= 20; ++I) {
-                const float A = Pi * float(I) / 20;
-                Outline.push_back({std::cos(A) * Arch * 1.05f, std::sin(A) * Arch - 0.02f});
+            for (const float Pier : {0.34f, 0.175f, 0.0f, -0.175f, -0.34f}) {
+                const float Half = 0.072f - 0.045f * std::fabs(Pier),
+                            Arch = std::max(0.02f, std::min(Deck(Pier) * 0.78f, 0.10f));
+                for (int I = 0; I <= 12; ++I) {
+                    const float A = Pi * float(I) / 12;
+                    Outline.push_back({Pier + std::cos(A) * Half, std::sin(A) * Arch - 0.02f});
+                }
             }
-            Outline.push_back({-Arch * 1.05f, -0.02f});
             Outline.push_back({-0.5f, -0.02f});
         } else {
             for (int I = 24; I >= 0; --I) {

@@ -2,6 +2,8 @@
 
 #include "compositions.h"
 
+#include <cmath>
+
 struct CompositionRow {
     const char* Name;
     Composition Paint;
@@ -132,4 +134,59 @@ void PaintSkyWithoutOrb(Scene& P, float Horizon)
     P.L = &Plain;
     PaintSky(P, Horizon);
     P.L = Own;
+}
+
+// A rock cut out along Path, lit from the side of the sun.
+void CutRock(Scene& P, const QPainterPath& Path, float X, float Half, Rgb Local, float Far,
+             float HazeFrom, float HazeTo)
+{
+    const Mask Area = MaskOf(Path);
+    for (int Y = 0; Y < Height; ++Y)
+        for (int PX = 0; PX < Width; ++PX) {
+            const std::size_t I = std::size_t(Y * Width + PX);
+            if (Area[I] <= 0) continue;
+            const float R = Ridged(float(PX) / 34, float(Y) / 80, 3, P.Seed + std::uint32_t(X)),
+                        Layer = Noise(float(PX) / 120, float(Y) / 5, P.Seed + 3) - 0.5f;
+            const float Side = SunSide(P, X) * (float(PX) - X) / Half;
+            Rgb Colour = Lit(P, Times(Local, 0.82f + 0.35f * R + 0.30f * Layer),
+                             Clamp(0.45f + 0.38f * Side + 0.5f * (R - 0.45f)), Far);
+            Colour = Mix(Colour, Hex(P.L->Haze), 0.8f * Smooth(HazeFrom, HazeTo, float(Y)));
+            Blend(P.C, PX, Y, Colour, Area[I]);
+            P.C.Flow[I] = Pi / 2 + 0.8f * (R - 0.5f);
+        }
+    Repaint(P.C, &Area, {{Clamp(Half / 10, 2.2f, 5), 5, -1, 0.05f}, {1.7f, 4, 0.09f, 0.04f}});
+}
+
+void StoneSteps(Scene& P, const Line& Middle, float From, float To, int Count, Rgb Local)
+{
+    const Line Way = Curve(Middle, 24);
+    const auto Spot = [&](float T) { return Way[std::size_t(Clamp(T) * float(Way.size() - 1))]; };
+    for (int I = 0; I < Count; ++I) {
+        const float T = std::pow(float(I) / float(Count), 1.3f),
+                    Next = std::pow(float(I + 1) / float(Count), 1.3f), Far = 0.6f * (1 - T);
+        const Point A = Spot(T), B = Spot(Next);
+        const float Half = Lerp(From, To, T), Deep = std::max(B.Y - A.Y, 1.5f);
+        const int Stones = 4 + AnyOf(P.C, 4);
+        for (int K = 0; K < Stones; ++K) { // slab beside slab, each worn in its own way
+            const float X0 = A.X + Half * (2 * float(K) / float(Stones) - 1) + Any(P.C, 0, 2) * T,
+                        X1 = A.X + Half * (2 * float(K + 1) / float(Stones) - 1),
+                        Sag = AnyBell(P.C);
+            const Rgb Slab = Times(Local, Any(P.C, 0.82f, 1.12f));
+            Stroke(P.C, {{X0, A.Y + Deep * 0.72f}, {X1, A.Y + Deep * 0.72f}}, Deep * 0.36f,
+                   Deep * 0.36f, Lit(P, Times(Slab, 0.55f), 0.18f, Far), 1);
+            Stroke(
+                P.C,
+                {{X0, A.Y + Deep * 0.2f},
+                 {(X0 + X1) / 2, A.Y + Deep * 0.2f + Sag * 0.6f},
+                 {X1, A.Y + Deep * 0.2f}},
+                Deep * 0.33f, Deep * 0.33f,
+                Lit(P, P.Snow ? Mix(Slab, Hex(0xf4f8ff), 0.85f) : Slab, Any(P.C, 0.6f, 0.9f), Far),
+                1);
+        }
+        for (int K = 0; K < 6; ++K) { // moss or drifts creep in from the sides
+            const float U = (K % 2 ? 1.0f : -1.0f) * (1 - 0.45f * Any(P.C) * Any(P.C));
+            Dab(P.C, A.X + U * Half, A.Y + Deep * Any(P.C), 3 + 18 * T, 1.2f + 4 * T, 0,
+                Lit(P, P.Snow ? Hex(0xf4f8ff) : Hex(0x64803c), 0.5f, Far), 0.6f);
+        }
+    }
 }

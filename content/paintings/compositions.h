@@ -8,6 +8,13 @@ Rgb GroundColour(const Scene& P);
 // Count ranges one before the other, each nearer one lower and darker, the last at Foot.
 void Ranges(Scene& P, Hill Kind, int Count, float Tall, float Foot, float Snow, float Trees);
 
+// A rock cut out along Path, lit from the side of the sun; it fades into haze between two heights.
+void CutRock(Scene& P, const QPainterPath& Path, float X, float Half, Rgb Local, float Far,
+             float HazeFrom, float HazeTo);
+
+// Steps of stone that come down along Middle and widen towards us.
+void StoneSteps(Scene& P, const Line& Middle, float From, float To, int Count, Rgb Local);
+
 // The sky without its own sun or moon, for pictures that set a greater one.
 void PaintSkyWithoutOrb(Scene& P, float Horizon);
 

@@ -10,27 +10,6 @@ static float CrestAtX(const std::vector<float>& Crest, float X)
     return Crest[std::size_t(std::clamp(int(X), 0, Width - 1))];
 }
 
-// A rock cut out along Path, lit from the side of the sun.
-static void CutRock(Scene& P, const QPainterPath& Path, float X, float Half, Rgb Local, float Far,
-                    float HazeFrom, float HazeTo)
-{
-    const Mask Area = MaskOf(Path);
-    for (int Y = 0; Y < Height; ++Y)
-        for (int PX = 0; PX < Width; ++PX) {
-            const std::size_t I = std::size_t(Y * Width + PX);
-            if (Area[I] <= 0) continue;
-            const float R = Ridged(float(PX) / 34, float(Y) / 80, 3, P.Seed + std::uint32_t(X)),
-                        Layer = Noise(float(PX) / 120, float(Y) / 5, P.Seed + 3);
-            const float Side = SunSide(P, X) * (float(PX) - X) / Half;
-            Rgb Colour = Lit(P, Times(Local, 0.75f + 0.35f * R + 0.15f * Layer),
-                             Clamp(0.45f + 0.38f * Side + 0.5f * (R - 0.45f)), Far);
-            Colour = Mix(Colour, Hex(P.L->Haze), 0.8f * Smooth(HazeFrom, HazeTo, float(Y)));
-            Blend(P.C, PX, Y, Colour, Area[I]);
-            P.C.Flow[I] = Pi / 2 + 0.8f * (R - 0.5f);
-        }
-    Repaint(P.C, &Area, {{Clamp(Half / 10, 2.2f, 5), 5, -1, 0.05f}, {1.7f, 4, 0.09f, 0.04f}});
-}
-
 void PaintSummit(Scene& P)
 {
     const float H = Vary(P, 300, 350);
@@ -70,17 +49,16 @@ void PaintSpires(Scene& P)
                     Half = (13 + 30 * T) * Any(P.C, 0.7f, 1.2f),
                     Tall = Any(P.C, 150, 280) * (0.7f + 0.5f * T), Foot = H + 20 + 110 * T;
         if (I > 7 && std::fabs(X - 360) < 140) continue;
-        QPainterPath Path(QPointF(X - Half * 1.5f, Foot));
-        for (int K = 1; K < 14; ++K)
-            Path.lineTo(X - Half * (1.4f - 1.15f * std::pow(float(K) / 14, 0.8f)) +
-                            Half * 0.7f * (Noise(float(K) * 0.7f, T * 9, P.Seed) - 0.5f),
-                        Foot - Tall * float(K) / 14);
-        Path.lineTo(X, Foot - Tall);
-        for (int K = 13; K > 0; --K)
-            Path.lineTo(X + Half * (1.4f - 1.15f * std::pow(float(K) / 14, 0.8f)) +
-                            Half * 0.7f * (Noise(float(K) * 0.7f, T * 9 + 4, P.Seed) - 0.5f),
-                        Foot - Tall * float(K) / 14);
-        Path.lineTo(X + Half * 1.5f, Foot);
+        QPainterPath Path;
+        for (int K = 0; K <= 40; ++K) { // up the left side, down the right one
+            const float Side = K <= 20 ? -1.0f : 1.0f, Up = float(K <= 20 ? K : 40 - K) / 20;
+            const float Out = 0.62f + 0.75f * std::pow(1 - Up, 5.0f) - 0.30f * Up * Up +
+                              0.50f * (Noise(Up * 7 + Side * 9, T * 31, P.Seed) - 0.5f);
+            const QPointF Q(X + Side * Half * Out * (Up > 0.99f ? 0.6f : 1.0f) +
+                                Half * 0.6f * (Noise(Up * 3, T * 17, P.Seed + 1) - 0.5f),
+                            Foot - Tall * Up);
+            K == 0 ? Path.moveTo(Q) : Path.lineTo(Q);
+        }
         const float Far = 1.2f * (1 - T) + 0.15f;
         CutRock(P, Path, X, Half, Stone, Far, Foot - 90, Foot + 10);
         for (int K = 0; K < 4; ++K)
@@ -231,38 +209,60 @@ void PaintButtes(Scene& P)
 
 void PaintChasm(Scene& P)
 {
-    const float H = Vary(P, 80, 120);
+    const float H = Vary(P, 90, 150), Middle = Vary(P, 300, 420, 2);
     PaintSky(P, H);
-    const Rgb Red = P.Seed % 2 ? Hex(0xcc7c54) : Hex(0xb8846c);
-    Ranges(P, Hill::Mesa, 2, 50, H + 10, P.Snow ? 0.5f : 0, 0);
+    static constexpr std::uint32_t Stones[] = {0xd08a5c, 0xc4a07c, 0xb87860, 0xc89c64};
+    const Rgb Red = Hex(Stones[P.Seed % 4]);
+    Ranges(P, Hill::Mesa, 2, 44, H + 10, P.Snow ? 0.5f : 0, 0);
     PaintMeadow(P, nullptr, H + 8, Mix(Red, Hex(0xe0c090), 0.3f), Red, 0.5f);
-    const Mask Bed = Along(
-        {{420, H + 26}, {330, H + 80}, {450, H + 150}, {370, H + 230}, {400, Height + 30}}, 5, 60);
-    PaintWater(P, &Bed, H + 24, 0.5f, 0.35f);
-    for (int I = 0; I < 6; ++I) { // walls step down to the river from both sides
-        const float T = float(I) / 5;
+    const auto RiverX = [&](float Y) { return Middle + 46 * std::sin((Y - H) / 52); };
+    const int Layers = 7;
+    for (int I = 0; I < Layers; ++I) { // walls step down to the river from both sides
+        const float T = float(I) / (Layers - 1), Foot = H + 40 + 300 * std::pow(T, 1.5f),
+                    Top = H + 6 + 96 * T * T, Gap = 10 + 64 * T,
+                    Far = 1.7f * (1 - T) * (1 - T) + 0.08f;
         for (int Side = -1; Side <= 1; Side += 2) {
-            const float In = 380 + float(Side) * (40 + 70 * T + Any(P.C, 0, 60)),
-                        Top = H + 14 + 66 * T * Any(P.C, 0.7f, 1.1f), Foot = H + 60 + 290 * T * T;
-            QPainterPath Path(QPointF(360 + Side * 420, Top - 10));
-            Path.lineTo(In + float(Side) * 90 * (0.5f + T), Top);
-            for (int K = 0; K <= 8; ++K)
-                Path.lineTo(In + float(Side) * (90 * (0.5f + T) * (1 - float(K) / 8) *
-                                                    (K % 2 ? 1.0f : 0.82f) +
-                                                16 * Noise(float(K), T * 9, P.Seed)),
-                            Lerp(Top, Foot, float(K) / 8));
-            Path.lineTo(360 + Side * 420, Foot + 30);
-            CutRock(P, Path, In + float(Side) * 150, 190, Times(Red, 1 - 0.12f * T),
-                    0.9f * (1 - T) + 0.08f, Foot - 30, Foot + 60);
+            const float In = RiverX(Foot) + float(Side) * Gap;
+            QPainterPath Path(QPointF(360 + Side * 460, Foot + 60));
+            Path.lineTo(360 + Side * 460, Top - 14 - Any(P.C, 0, 24) * T);
+            float Out = (70 + 130 * T) * Any(P.C, 0.8f, 1.3f), Y = Top;
+            Path.lineTo(In + float(Side) * (Out + 60), Top - 4);
+            for (int Step = 0; Step < 4; ++Step) { // a ledge, then a sheer face
+                Path.lineTo(In + float(Side) * Out, Y + 2);
+                const float Next = Lerp(Top, Foot, float(Step + 1) / 4);
+                for (int K = 0; K < 3; ++K) {
+                    Y = Lerp(Y, Next, float(K + 1) / 3);
+                    Path.lineTo(In + float(Side) * (Out - 7 * T * Noise(Y / 6, T * 9, P.Seed)), Y);
+                }
+                Out *= Any(P.C, 0.35f, 0.65f);
+            }
+            Path.lineTo(In, Foot + 60);
+            CutRock(P, Path, In + float(Side) * 120, 170, Times(Red, 1.08f - 0.10f * float(I % 2)),
+                    Far, Foot - 40, Foot + 130);
         }
+        PaintMist(P, Foot - 4, 8 + 10 * T, 0.38f * (1 - 0.6f * T), 1.4f);
     }
-    PaintMotif(P, P.Plan.Motif, 590, 306, 100, 0.1f);
-    for (int I = 0; I < 12; ++I)
-        Bush(P, I % 2 ? Any(P.C, -10, 170) : Any(P.C, 560, 730), Any(P.C, 330, 425),
-             Any(P.C, 8, 24), 0.05f);
+    Line Bends;
+    for (int I = 0; I <= 8; ++I) {
+        const float Y = H + 40 + (Height - H) * float(I) / 8;
+        Bends.push_back({RiverX(Y), Y});
+    }
+    const Mask Bed = Along(Bends, 3, 56);
+    PaintWater(P, &Bed, H + 40, 0.8f, 0.1f);
+    for (int Y = int(H) + 40; Y < Height; ++Y) // it lies deep, and still holds the sky
+        for (int X = 0; X < Width; ++X)
+            Blend(P.C, X, Y, Sky(P, 0.10f + 0.4f * Noise(float(X) / 60, float(Y) / 4, P.Seed)),
+                  0.62f * Bed[std::size_t(Y * Width + X)]);
+    const float Rim = Middle > 360 ? -1.0f : 1.0f;
+    const Mask Ledge = Below(Rim > 0 ? Line{{400, 460}, {490, 372}, {580, 318}, {740, 300}}
+                                     : Line{{-20, 300}, {140, 318}, {230, 372}, {320, 460}});
+    PaintMeadow(P, &Ledge, 270, Times(Red, 0.75f), Red, 0.5f);
+    PaintMotif(P, P.Plan.Motif, 360 + Rim * 250, 326, 104, 0.08f);
+    for (int I = 0; I < 9; ++I)
+        Bush(P, 360 + Rim * Any(P.C, 180, 370), Any(P.C, 345, 425), Any(P.C, 8, 24), 0.05f);
     for (int I = 0; I < 3; ++I)
-        PaintTree(P, P.Snow ? Tree::Fir : Tree::Pine, I % 2 ? Any(P.C, 620, 720) : Any(P.C, 0, 90),
-                  Any(P.C, 330, 400), Any(P.C, 80, 150), 0.03f);
+        PaintTree(P, P.Snow ? Tree::Fir : Tree::Pine, 360 + Rim * Any(P.C, 200, 370),
+                  Any(P.C, 340, 410), Any(P.C, 80, 150), 0.03f);
     PaintLife(P, 350);
 }
 
@@ -288,16 +288,18 @@ void PaintGreatDune(Scene& P)
                              {740, H + 40}});
     for (int Y = 0; Y < Height; ++Y) { // the crest winds down to us; one side has the light
         float CrestX = PeakX;
-        for (const Point& K : Crest)
-            if (K.Y <= float(Y)) CrestX = K.X;
+        for (std::size_t K = 1; K < Crest.size(); ++K)
+            if (Crest[K - 1].Y <= float(Y) && float(Y) < Crest[K].Y)
+                CrestX = Lerp(Crest[K - 1].X, Crest[K].X,
+                              (float(Y) - Crest[K - 1].Y) / (Crest[K].Y - Crest[K - 1].Y));
         for (int X = 0; X < Width; ++X) {
             const std::size_t I = std::size_t(Y * Width + X);
             if (Body[I] <= 0) continue;
             const float Off = (float(X) - CrestX) * (P.SunX > PeakX ? 1.0f : -1.0f);
             const float Ripple = std::sin(float(Y) * 0.55f + float(X) * 0.12f +
                                           7 * Fbm(float(X) / 90, float(Y) / 60, 3, P.Seed));
-            const float Shade =
-                Off > 0 ? 0.92f - Clamp(Off / 900) : 0.16f + Clamp(-Off / 420) * 0.5f;
+            const float Shade = Lerp(0.16f + Clamp(-Off / 420) * 0.5f, 0.92f - Clamp(Off / 900),
+                                     Smooth(-2, 2, Off));
             const float Near = Clamp((float(Y) - PeakY) / 330);
             Blend(P.C, X, Y,
                   Lit(P, Times(Sand, 1 + 0.05f * Ripple * Near),
@@ -322,39 +324,74 @@ void PaintViaduct(Scene& P)
     for (int I = 0; I < 30; ++I)
         PaintTree(P, I % 2 ? Tree::Fir : SeasonTree(P), Any(P.C, 0, 720), H + Any(P.C, 14, 60),
                   Any(P.C, 24, 50), 0.7f);
-    const float Deck = Vary(P, 150, 205, 3), Foot = 350;
-    const Rgb Brick = P.Seed % 2 ? Hex(0xb8a48c) : Hex(0xa87860);
-    const int Arches = 7;
-    Draw(P.C, [&](QPainter& Q) {
-        QPainterPath Body;
-        Body.addRect(QRectF(-10, Deck, 740, Foot - Deck));
-        for (int I = 0; I < Arches; ++I) {
-            const double X = -20 + 110 * I, W = 86, Bottom = Foot + 10;
-            QPainterPath Arch(QPointF(X, Bottom));
-            Arch.lineTo(X, Deck + 56);
-            Arch.arcTo(QRectF(X, Deck + 13, W, 86), 180, -180);
-            Arch.lineTo(X + W, Bottom);
-            Arch.closeSubpath();
-            Body -= Arch;
-        }
-        Q.fillPath(Body, ToQColor(Lit(P, Brick, 0.5f, 0.25f)));
-        for (int I = 0; I < Arches; ++I) { // the inner sides of the piers
-            const double X = -20 + 110 * I;
-            Q.fillRect(QRectF(P.SunX > 360 ? X + 78 : X, Deck + 56, 8, Foot - Deck - 56),
-                       ToQColor(Lit(P, Times(Brick, 0.6f), 0.15f, 0.25f)));
-        }
-        Q.fillRect(QRectF(-10, Deck - 5, 740, 8),
-                   ToQColor(Lit(P, P.Snow ? Hex(0xf0f4fa) : Times(Brick, 1.15f), 0.8f, 0.25f)));
-        Q.fillRect(QRectF(-10, Deck + 3, 740, 3),
-                   ToQColor(Lit(P, Times(Brick, 0.5f), 0.1f, 0.25f)));
-    });
+    // it swings out of the distance towards us, each arch wider than the last
+    const Rgb Brick = P.Seed % 2 ? Hex(0xc0ac90) : Hex(0xb08468);
+    struct Pier {
+        float X, Deck, Size;
+    };
+    const float FarX = Vary(P, 40, 260, 2), Lift = Vary(P, 120, 190, 3);
+    const auto At0 = [&](float T) {
+        const float Size = 0.16f + 0.84f * T * T;
+        return Pier{FarX + 720 * std::pow(T, 1.7f), H + 26 - Lift * Size, Size};
+    };
+    const int Arches = 10;
+    for (int I = 0; I < Arches; ++I) {
+        const Pier A = At0(float(I) / Arches), B = At0(float(I + 1) / Arches);
+        const float Far = 0.9f * (1 - B.Size), Foot = H + 26 + 150 * B.Size;
+        Draw(P.C, [&](QPainter& Q) {
+            const float Half = 12 * B.Size, Turn = P.SunX < B.X ? 0.2f : -0.15f;
+            QPolygonF Span({{double(A.X), double(A.Deck)}, {double(B.X), double(B.Deck)}});
+            for (int K = 12; K >= 0; --K) {
+                const float U = float(K) / 12, Off = 2 * U - 1, Size = Lerp(A.Size, B.Size, U);
+                Span << QPointF(Lerp(A.X, B.X, U),
+                                Lerp(A.Deck, B.Deck, U) +
+                                    Size *
+                                        (16 + 62 * (1 - std::sqrt(std::max(0.0f, 1 - Off * Off)))));
+            }
+            Q.setBrush(ToQColor(Lit(P, Brick, 0.5f + Turn, Far)));
+            Q.drawPolygon(Span);
+            Q.setBrush(ToQColor(Lit(P, Times(Brick, 0.7f), 0.22f, Far))); // the inner face
+            Q.drawRect(QRectF(B.X - Half - 7 * B.Size, B.Deck + 60 * B.Size, 9 * B.Size,
+                              Foot - B.Deck - 60 * B.Size));
+            Q.setBrush(ToQColor(Lit(P, Brick, 0.52f + Turn, Far)));
+            Q.drawPolygon(QPolygonF({{B.X - Half, B.Deck + 20 * B.Size},
+                                     {B.X + Half, B.Deck + 20 * B.Size},
+                                     {B.X + Half * 1.35f, Foot},
+                                     {B.X - Half * 1.35f, Foot}}));
+            const Rgb Rail = P.Snow ? Hex(0xf0f4fa) : Times(Brick, 1.15f);
+            Q.setPen(QPen(ToQColor(Lit(P, Rail, 0.9f, Far)), 1 + 6 * B.Size));
+            Q.drawLine(QPointF(A.X, A.Deck), QPointF(B.X, B.Deck));
+            Q.setPen(QPen(ToQColor(Lit(P, Times(Brick, 0.5f), 0.1f, Far)), 0.6 + 2 * B.Size));
+            Q.drawLine(QPointF(A.X, A.Deck + 6 * A.Size), QPointF(B.X, B.Deck + 6 * B.Size));
+        });
+    }
     Mask Area(Width * Height, 0.0f);
-    for (int Y = int(Deck) - 6; Y < 350; ++Y)
+    for (int Y = std::max(0, int(H - Lift)); Y < 350; ++Y)
         for (int X = 0; X < Width; ++X)
             Area[std::size_t(Y * Width + X)] = 1, P.C.Flow[std::size_t(Y * Width + X)] = 0.1f;
     const std::vector<Rgb> Exact = P.C.Px;
     Repaint(P.C, &Area, {{2, 4, -1, 0.07f}});
     for (std::size_t I = 0; I < Exact.size(); ++I) P.C.Px[I] = Mix(P.C.Px[I], Exact[I], 0.4f);
+    if (P.Plan.Life != "walker") // a train under its smoke
+        for (int I = 0; I < 26; ++I) {
+            const float T = 0.46f + 0.016f * float(I % 13);
+            const Pier K = At0(T), L = At0(T + 0.013f);
+            if (I < 13) {
+                const bool Engine = I == 12;
+                Stroke(P.C, {{K.X, K.Deck - 9 * K.Size}, {L.X, L.Deck - 9 * L.Size}},
+                       (Engine ? 11 : 9) * K.Size, (Engine ? 12 : 9) * K.Size,
+                       Lit(P, Engine ? Hex(0x2c3430) : Hex(0x8c3028), 0.5f, 0.4f), 1);
+                Dab(P.C, (K.X + L.X) / 2, K.Deck - 12 * K.Size, 9 * K.Size, 6 * K.Size, 0,
+                    P.Night || P.L->Kind == 'e' ? Hex(0xffd070) : Lit(P, Hex(0xe8dcc0), 0.6f, 0.4f),
+                    Engine ? 0.0f : 0.95f);
+            } else {
+                const Pier End = At0(0.66f);
+                const float Back = float(I - 13) / 12;
+                SoftDab(P.C, End.X - 170 * Back, End.Deck - 26 - 50 * std::sqrt(Back),
+                        9 + 26 * Back, 7 + 15 * Back, Mix(Hex(P.L->CloudLit), Hex(P.L->Haze), Back),
+                        0.65f);
+            }
+        }
     PaintMist(P, 320, 22, 0.5f);
     const Mask Bank = Below({{-20, 320}, {180, 352}, {360, 366}, {560, 344}, {740, 310}});
     PaintMeadow(P, &Bank, 280, GroundColour(P), GroundColour(P), 1);
@@ -364,7 +401,7 @@ void PaintViaduct(Scene& P)
     for (int I = 0; I < 12; ++I)
         PaintTree(P, SeasonTree(P), I % 2 ? Any(P.C, -10, 240) : Any(P.C, 500, 730),
                   Any(P.C, 350, 420), Any(P.C, 50, 130), 0.05f);
-    PaintLife(P, Deck - 6);
+    PaintLife(P, At0(0.75f).Deck - 4);
 }
 
 void PaintSunDisc(Scene& P)
@@ -444,17 +481,18 @@ void PaintPerch(Scene& P)
 
 void PaintTeaHills(Scene& P)
 {
-    const float H = Vary(P, 90, 150);
+    const float H = Vary(P, 80, 190), Spread = Vary(P, 0.8f, 1.5f, 2);
     PaintSky(P, H);
-    Ranges(P, Hill::Soft, 3, 80, H + 6, P.Snow ? 0.6f : 0, 0.6f);
+    Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 3, Vary(P, 60, 120, 5), H + 6,
+           P.Snow ? 0.6f : 0.1f, 0.6f);
     PaintMist(P, H + 6, 20, 0.6f);
     const Rgb Crop = P.Plan.Season == "autumn" ? Hex(0xa89c3c)
                      : P.Snow                  ? Hex(0x98acb4)
                                                : Hex(0x6ca440);
     for (int I = 0; I < 7; ++I) { // round hills combed by rows of bushes
         const float T = float(I) / 6, Y = H + 30 + 200 * T * T + 50 * T,
-                    X = I % 2 ? Any(P.C, 470, 650) : Any(P.C, 70, 250), W = 260 + 190 * T,
-                    Tall = 50 + 70 * T;
+                    X = I % 2 ? Any(P.C, 440, 690) : Any(P.C, 30, 280),
+                    W = (170 + 190 * T) * Spread, Tall = (80 + 100 * T) * Any(P.C, 0.7f, 1.2f);
         const Mask Hillock = Below({{X - W * 1.6f, Y + Tall * 0.7f},
                                     {X - W * 0.6f, Y + Tall * 0.1f},
                                     {X, Y - Tall * 0.25f},
@@ -486,7 +524,7 @@ void PaintTeaHills(Scene& P)
             for (int K = 0; K < 3; ++K)
                 PaintTree(P, SeasonTree(P), X + Any(P.C, -0.5f, 0.5f) * W, Y - Tall * 0.15f,
                           26 + 44 * T, Far);
-        if (I < 4) PaintMist(P, Y + Tall * 0.5f, 10, 0.3f);
+        if (I < 5) PaintMist(P, Y + Tall * 0.45f, 14, 0.5f);
     }
     PaintLife(P, 396);
 }

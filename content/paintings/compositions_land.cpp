@@ -309,7 +309,7 @@ void PaintAvenue(Scene& P)
 
 void PaintStairs(Scene& P)
 {
-    const float H = Vary(P, 96, 186), X = Any(P.C, 320, 400);
+    const float H = Vary(P, 96, 206), X = Vary(P, 240, 480, 5);
     PaintSky(P, H);
     P.SunX = X + Any(P.C, -60, 60);
     Ranges(P, Hill::Soft, 2, 70, H + 30, P.Snow ? 0.7f : 0, 0.6f);
@@ -323,27 +323,9 @@ void PaintStairs(Scene& P)
                   Any(P.C, 60, 130), 0.6f);
     const std::string Gate = P.Plan.Motif == "none" ? "torii" : P.Plan.Motif;
     PaintMotif(P, Gate, X, H + 56, Any(P.C, 100, 130), 0.4f);
-    const int Steps = 26;
-    const Rgb Grey = Hex(0xb4aca0);
-    for (int I = 0; I < Steps; ++I) {
-        const float T = float(I) / Steps, Y = H + 54 + (Height - H - 44) * std::pow(T, 1.25f),
-                    Half = 26 + 150 * std::pow(T, 1.25f), Next = (3 + 15 * T);
-        const float Tone = Any(P.C, 0.85f, 1.1f);
-        Stroke(P.C,
-               {{X - Half, Y + Next * 0.75f}, {X, Y + Next * 0.75f}, {X + Half, Y + Next * 0.75f}},
-               Next * 0.45f, Next * 0.45f, Lit(P, Times(Grey, 0.62f * Tone), 0.2f, 0.5f * (1 - T)),
-               1);
-        Stroke(P.C,
-               {{X - Half, Y + Next * 0.2f},
-                {X, Y + Next * 0.2f + AnyBell(P.C)},
-                {X + Half, Y + Next * 0.2f}},
-               Next * 0.34f, Next * 0.34f,
-               Lit(P, P.Snow ? Hex(0xeef2f8) : Times(Grey, 1.1f * Tone), 0.8f, 0.5f * (1 - T)), 1);
-        if (!P.Snow && I % 2)
-            for (int K = 0; K < 5; ++K)
-                Dab(P.C, X + AnyBell(P.C) * Half * 1.1f, Y + Next * 0.4f, 4 + 16 * T, 1.5f + 3 * T,
-                    0, Lit(P, Hex(0x6c8c48), 0.5f, 0.4f * (1 - T)), 0.5f);
-    }
+    const float Bend = Vary(P, -70, 70, 2); // it turns on its way down
+    StoneSteps(P, {{X, H + 54}, {X + Bend, Lerp(H, Height, 0.45f)}, {X - Bend * 0.4f, Height + 30}},
+               22, 150, 30, Hex(0xb4aca0));
     for (int I = 0; I < 5; ++I) {
         const float T = float(I + 1) / 5;
         for (int Side = -1; Side <= 1; Side += 2) {

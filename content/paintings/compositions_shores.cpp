@@ -343,10 +343,12 @@ void PaintHorseshoe(Scene& P)
                    Lit(P, Times(RockColour(P), Any(P.C, 0.5f, 0.9f)), 0.3f, 0.5f - 0.3f * Near),
                    0.6f);
     }
-    for (int I = 0; I < 15; ++I) {
-        const float U = float(I) / 14 * 2 - 1;
-        if (Noise(float(I) * 0.9f, 4, P.Seed) < 0.32f) continue;
-        PaintFall(P, 360 + U * 330, H + 40 + 60 * U * U, 300 + 46 * U * U, 24 + 26 * U * U,
+    for (int I = 0; I < 64; ++I) { // curtains and threads, with dark rock between
+        const float U = float(I) / 63 * 2 - 1 + 0.01f * AnyBell(P.C);
+        const float Water = Noise(U * 4.5f + 9, 4, P.Seed);
+        if (Water < 0.40f) continue;
+        PaintFall(P, 360 + U * 345, H + 40 + 60 * U * U + 8 * Noise(U * 13, 1, P.Seed),
+                  300 + 46 * U * U, (4 + 26 * (Water - 0.40f)) * (1 + 0.9f * U * U),
                   0.5f - 0.35f * U * U);
     }
     PaintMist(P, 318, 46, 0.75f);
@@ -363,20 +365,29 @@ void PaintAtoll(Scene& P)
     PaintSky(P, H);
     PaintSea(P, H, 0.4f, P.Seed % 2 ? Hex(0x38b0a8) : Hex(0x3c98b0));
     PaintGlitter(P, H + 2, Height, P.L->OrbSize > 0 ? 0.6f : 0.2f);
-    const float X = Any(P.C, 260, 380), Y = H + Any(P.C, 56, 84);
-    for (int I = 0; I < 120; ++I) // shallows glow around the sand
-        Dab(P.C, X + AnyBell(P.C) * 300, Y + 12 + AnyBell(P.C) * 26, Any(P.C, 30, 110),
-            Any(P.C, 3, 8), 0, Lit(P, Hex(0xa8f0dc), 0.8f, 0.1f), 0.16f);
-    const Mask Sand = Oval(X, Y, 190, 26, P.Seed);
+    const float X = Vary(P, 170, 500, 2), Y = Lerp(H, Height, Vary(P, 0.25f, 0.62f, 5)),
+                R = (Y - H) * Vary(P, 1.6f, 3.2f, 7); // half the length of the island
+    for (int I = 0; I < 160; ++I)                     // shallows glow around the sand
+        Dab(P.C, X + AnyBell(P.C) * R * 1.7f, Y + R * (0.06f + 0.15f * AnyBell(P.C)),
+            Any(P.C, 0.15f, 0.6f) * R, Any(P.C, 3, 8), 0, Lit(P, Hex(0xa8f0dc), 0.8f, 0.1f), 0.16f);
+    const Mask Sand = Oval(X, Y, R, R * 0.14f, P.Seed);
     PaintMeadow(P, &Sand, Y - 60, Hex(0xf4dcac), Hex(0xf4e4c0), 0.2f);
-    PaintSurf(P, {{X - 190, Y + 14}, {X - 60, Y + 24}, {X + 80, Y + 24}, {X + 190, Y + 12}}, 5);
-    for (int I = 0; I < 10; ++I) Bush(P, X + AnyBell(P.C) * 110, Y - 2, Any(P.C, 12, 26), 0.2f);
-    PaintMotif(P, P.Plan.Motif, X + 30, Y, 76, 0.2f);
-    for (int I = 0; I < 9; ++I)
-        PaintTree(P, Tree::Palm, X + AnyBell(P.C) * 120, Y + Any(P.C, -6, 12), Any(P.C, 90, 190),
-                  0.15f);
-    Boat(P, "row", X + 180, Y + 34, 64, 0.05f);
-    Boat(P, "sail", Any(P.C, 600, 660), H + 24, 40, 0.5f);
+    PaintSurf(P,
+              {{X - R, Y + R * 0.07f},
+               {X - R * 0.3f, Y + R * 0.13f},
+               {X + R * 0.4f, Y + R * 0.13f},
+               {X + R, Y + R * 0.06f}},
+              5);
+    for (int I = 0; I < 10; ++I)
+        Bush(P, X + AnyBell(P.C) * R * 0.6f, Y - 2, R * Any(P.C, 0.06f, 0.14f), 0.2f);
+    PaintMotif(P, P.Plan.Motif, X + R * 0.16f, Y, R * 0.4f, 0.2f);
+    const int Palms = 3 + int(Vary(P, 0, 9, 5));
+    for (int I = 0; I < Palms; ++I)
+        PaintTree(P, Tree::Palm, X + AnyBell(P.C) * R * 0.65f, Y + Any(P.C, -6, 12),
+                  std::min(R, 220.0f) * Any(P.C, 0.5f, 1.0f), 0.15f);
+    Boat(P, "row", X + R * (X > 360 ? -1.0f : 1.0f), Y + R * 0.2f, R * 0.36f, 0.05f);
+    Boat(P, P.Seed % 2 ? "sail" : "junk", X > 360 ? Any(P.C, 60, 180) : Any(P.C, 560, 660),
+         H + Any(P.C, 14, 50), Any(P.C, 30, 70), 0.4f);
     PaintLife(P, Y + 14);
 }
 
@@ -489,14 +500,41 @@ void PaintFloes(Scene& P)
     for (int I = 0; I < 5; ++I)
         Berg(Any(P.C, 0, 720), H + 12 + 16 * float(I), 24 + 12 * float(I), 0.9f - 0.15f * float(I));
     Berg(Any(P.C, 430, 560), H + 110, Any(P.C, 90, 140), 0.15f);
-    for (int I = 0; I < 34; ++I) { // flat floes
-        const float T = Any(P.C), X = Any(P.C, 0, 720), Y = Lerp(H + 20, Height + 8, T),
-                    S = 6 + 70 * T * Any(P.C, 0.4f, 1);
-        Dab(P.C, X, Y + 1 + 3 * T, S * 1.5f, S * 0.30f, 0,
-            Lit(P, Hex(0x70a8c0), 0.3f, 0.5f * (1 - T)), 0.9f);
-        Dab(P.C, X, Y, S * 1.5f, S * 0.28f, AnyBell(P.C) * 0.05f,
-            Lit(P, Hex(0xf4f8fc), Any(P.C, 0.5f, 0.95f), 0.5f * (1 - T)), 1);
+    struct Floe {
+        float X, Y, Size;
+    };
+    std::vector<Floe> Floes; // flat ones, the nearer the larger, none upon another
+    for (int I = 0; I < 150 && Floes.size() < 44; ++I) {
+        const float T = Any(P.C);
+        const Floe New{Any(P.C, -20, 740), Lerp(H + 16, Height + 8, T),
+                       (5 + 62 * T) * Any(P.C, 0.35f, 1)};
+        if (std::none_of(Floes.begin(), Floes.end(), [&](const Floe& Other) {
+                return std::fabs(New.X - Other.X) < New.Size + Other.Size &&
+                       std::fabs(New.Y - Other.Y) < (New.Size + Other.Size) * 0.3f;
+            }))
+            Floes.push_back(New);
     }
+    std::sort(Floes.begin(), Floes.end(), [](const Floe& A, const Floe& B) { return A.Y < B.Y; });
+    Draw(P.C, [&](QPainter& Q) {
+        for (const Floe& F : Floes) {
+            const float T = (F.Y - H) / (Height - H), Far = 0.5f * (1 - T);
+            QPolygonF Top;
+            for (int K = 0; K < 9; ++K) {
+                const float A = (float(K) + Any(P.C, -0.3f, 0.3f)) / 9 * 2 * Pi,
+                            R = F.Size * Any(P.C, 0.7f, 1.1f);
+                Top << QPointF(F.X + std::cos(A) * R, F.Y + std::sin(A) * R * 0.24f);
+            }
+            Q.setBrush(ToQColor(Lit(P, Hex(0x6ca4c0), 0.25f, Far)));
+            Q.drawPolygon(Top.translated(0, 1 + 5 * T));
+            Q.setBrush(ToQColor(Lit(P, Hex(0xf4f8fc), Any(P.C, 0.5f, 0.95f), Far)));
+            Q.drawPolygon(Top);
+        }
+    });
+    Mask Sheet(Width * Height, 0.0f);
+    for (int Y = int(H) + 16; Y < Height; ++Y)
+        for (int X = 0; X < Width; ++X)
+            Sheet[std::size_t(Y * Width + X)] = 1, P.C.Flow[std::size_t(Y * Width + X)] = 0;
+    Repaint(P.C, &Sheet, {{1.6f, 4, -1, 0.05f}});
     if (P.Seed % 2) Boat(P, "sail", 200, H + 96, 74, 0.15f);
     PaintLife(P, H + 120);
 }

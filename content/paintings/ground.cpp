@@ -116,7 +116,8 @@ void PaintGlitter(Scene& P, float From, float To, float Strength)
 static void Turf(Scene& P, const Mask& Area, float Horizon)
 {
     for (int I = 0; I < 2600; ++I) {
-        const float T = std::sqrt(Any(P.C)), X = Any(P.C, 0, Width), Y = Lerp(Horizon + 6, Height, T);
+        const float T = std::sqrt(Any(P.C)), X = Any(P.C, 0, Width),
+                    Y = Lerp(Horizon + 6, Height, T);
         const std::size_t Place = std::size_t(std::clamp(int(Y), 0, Height - 1) * Width + int(X));
         if (Area[Place] < 0.5f || Noise(X / (16 + 60 * T), Y / (5 + 22 * T), P.Seed + 745) < 0.4f)
             continue;

@@ -58,13 +58,15 @@ static float MountainAt(float U, float V, std::uint32_t Seed)
 {
     const float Bent = 0.8f * Fbm(U * 0.8f, V * 1.6f, 2, Seed + 1);
     const float Rise = Smooth(-0.25f, 0.75f, V) * (1 - 0.6f * Smooth(0.8f, 1.15f, V));
-    const float Massif = 0.25f + 0.75f * Smooth(0.1f, 0.9f, Noise(U * 1.1f + 7, V * 1.1f, Seed + 2));
+    const float Massif =
+        0.25f + 0.75f * Smooth(0.1f, 0.9f, Noise(U * 1.1f + 7, V * 1.1f, Seed + 2));
     return Rise * Massif * (0.16f + 0.84f * Ridged(U * 0.95f + Bent, V * 1.5f + Bent, 5, Seed));
 }
 
 static float DuneAt(float U, float V, std::uint32_t Seed)
 {
-    const float Bent = 1.3f * Noise(U * 0.7f, V * 1.3f, Seed) + 0.16f * Noise(U * 2.1f, V * 4, Seed);
+    const float Bent =
+        1.3f * Noise(U * 0.7f, V * 1.3f, Seed) + 0.16f * Noise(U * 2.1f, V * 4, Seed);
     const float Place = U * 0.6f + V * 1.3f + Bent, In = Place - std::floor(Place);
     const float Tall = 0.4f + 0.6f * Noise(U * 0.7f + 3, std::floor(Place) + 0.5f, Seed + 1);
     // a long hollow windward slope up to an edge, and a short slip beyond it
@@ -106,7 +108,7 @@ static std::vector<float> PaintTerrain(Scene& P, const HillLook& Look, std::uint
             // the fall of the ground to the side and towards us
             const int Left = std::max(X - 3, 0), Right = std::min(X + 3, Width);
             float Fall = (Ground(Right, Z) - Ground(Left, Z)) * Rise / float(Right - Left) *
-                               (Dune ? 2.4f : 1.3f);
+                         (Dune ? 2.4f : 1.3f);
             const float Back = (Ground(X, std::min(Z + 3, Depth)) - Ground(X, std::max(Z - 3, 0))) *
                                (Dune ? 5 : 3.5f);
             if (Back < 0 && Dune) Fall *= Smooth(-0.6f, 0, Back); // we see the edge of it only
@@ -151,8 +153,8 @@ std::vector<float> PaintHill(Scene& P, const HillLook& Look)
     if (Look.Kind == Hill::Alpine || Look.Kind == Hill::Dune) {
         const std::vector<float> Crest = PaintTerrain(P, Look, Seed);
         if (Look.Trees > 0 && Look.Kind == Hill::Alpine && Look.Far < 1)
-            Wood(P, std::vector<float>(Width, Look.Foot - 2), 0, Width, 11 - 4 * Look.Far,
-                 Look.Far, Look.Trees);
+            Wood(P, std::vector<float>(Width, Look.Foot - 2), 0, Width, 11 - 4 * Look.Far, Look.Far,
+                 Look.Trees);
         return Crest;
     }
     const float Rise = Look.Foot - Look.Top;

@@ -100,55 +100,128 @@ static void FarBirds(Scene& P, float X, float Y, int Count, bool Vee)
     }
 }
 
+// Beasts stand in units of their length, x forward and y up from the ground.
+struct BeastLook {
+    Line Body; // back, neck, head and belly in one outline, from the root of the tail
+    Line Legs[4], Tail;
+    float Thigh, Shank; // half breadths of a leg
+};
+
+static const BeastLook Horse{{{-0.40f, 0.57f}, {-0.30f, 0.65f}, {-0.08f, 0.61f}, {0.12f, 0.62f},
+                              {0.22f, 0.68f},  {0.34f, 0.86f},  {0.41f, 0.97f},  {0.45f, 1.03f},
+                              {0.49f, 0.96f},  {0.58f, 0.84f},  {0.63f, 0.77f},  {0.58f, 0.73f},
+                              {0.49f, 0.80f},  {0.43f, 0.79f},  {0.38f, 0.66f},  {0.35f, 0.53f},
+                              {0.26f, 0.43f},  {0.04f, 0.40f},  {-0.20f, 0.44f}, {-0.34f, 0.44f}},
+                             {{{-0.30f, 0.46f}, {-0.25f, 0.26f}, {-0.31f, 0.0f}},
+                              {{0.30f, 0.48f}, {0.35f, 0.27f}, {0.32f, 0.03f}},
+                              {{-0.36f, 0.50f}, {-0.38f, 0.25f}, {-0.39f, 0.0f}},
+                              {{0.25f, 0.46f}, {0.26f, 0.24f}, {0.24f, 0.0f}}},
+                             {{-0.40f, 0.57f}, {-0.49f, 0.44f}, {-0.46f, 0.20f}},
+                             0.062f,
+                             0.020f};
+static const BeastLook Grazing{{{-0.40f, 0.57f},
+                                {-0.30f, 0.65f},
+                                {-0.08f, 0.60f},
+                                {0.12f, 0.61f},
+                                {0.24f, 0.62f},
+                                {0.38f, 0.50f},
+                                {0.47f, 0.34f},
+                                {0.54f, 0.24f},
+                                {0.57f, 0.12f},
+                                {0.58f, 0.05f},
+                                {0.52f, 0.03f},
+                                {0.45f, 0.13f},
+                                {0.40f, 0.24f},
+                                {0.34f, 0.36f},
+                                {0.28f, 0.42f},
+                                {0.04f, 0.40f},
+                                {-0.20f, 0.44f},
+                                {-0.34f, 0.44f}},
+                               {{{-0.30f, 0.46f}, {-0.25f, 0.26f}, {-0.31f, 0.0f}},
+                                {{0.29f, 0.46f}, {0.36f, 0.25f}, {0.35f, 0.0f}},
+                                {{-0.36f, 0.50f}, {-0.38f, 0.25f}, {-0.39f, 0.0f}},
+                                {{0.23f, 0.46f}, {0.24f, 0.24f}, {0.21f, 0.0f}}},
+                               {{-0.40f, 0.57f}, {-0.48f, 0.44f}, {-0.46f, 0.20f}},
+                               0.062f,
+                               0.020f};
+static const BeastLook Deer{{{-0.34f, 0.62f},
+                             {-0.25f, 0.68f},
+                             {-0.04f, 0.65f},
+                             {0.15f, 0.67f},
+                             {0.23f, 0.76f},
+                             {0.27f, 0.92f},
+                             {0.20f, 1.02f},
+                             {0.30f, 1.00f},
+                             {0.39f, 0.96f},
+                             {0.45f, 0.91f},
+                             {0.41f, 0.88f},
+                             {0.34f, 0.88f},
+                             {0.33f, 0.77f},
+                             {0.31f, 0.64f},
+                             {0.25f, 0.53f},
+                             {0.04f, 0.49f},
+                             {-0.16f, 0.52f},
+                             {-0.30f, 0.50f}},
+                            {{{-0.24f, 0.54f}, {-0.19f, 0.30f}, {-0.24f, 0.0f}},
+                             {{0.27f, 0.56f}, {0.31f, 0.28f}, {0.30f, 0.0f}},
+                             {{-0.29f, 0.58f}, {-0.33f, 0.30f}, {-0.32f, 0.0f}},
+                             {{0.22f, 0.55f}, {0.22f, 0.28f}, {0.21f, 0.0f}}},
+                            {{-0.34f, 0.62f}, {-0.39f, 0.58f}, {-0.38f, 0.53f}},
+                            0.045f,
+                            0.014f};
+static const BeastLook Camel{{{-0.42f, 0.60f}, {-0.34f, 0.67f}, {-0.25f, 0.69f}, {-0.17f, 0.86f},
+                              {-0.06f, 0.73f}, {0.02f, 0.73f},  {0.10f, 0.88f},  {0.19f, 0.73f},
+                              {0.28f, 0.66f},  {0.38f, 0.59f},  {0.46f, 0.66f},  {0.50f, 0.84f},
+                              {0.52f, 0.96f},  {0.60f, 1.01f},  {0.72f, 0.94f},  {0.71f, 0.89f},
+                              {0.61f, 0.89f},  {0.58f, 0.74f},  {0.54f, 0.56f},  {0.42f, 0.47f},
+                              {0.28f, 0.46f},  {0.04f, 0.44f},  {-0.20f, 0.47f}, {-0.36f, 0.46f}},
+                             {{{-0.28f, 0.50f}, {-0.22f, 0.26f}, {-0.27f, 0.0f}},
+                              {{0.32f, 0.50f}, {0.36f, 0.26f}, {0.36f, 0.0f}},
+                              {{-0.36f, 0.52f}, {-0.37f, 0.26f}, {-0.38f, 0.0f}},
+                              {{0.25f, 0.50f}, {0.25f, 0.26f}, {0.23f, 0.0f}}},
+                             {{-0.42f, 0.60f}, {-0.46f, 0.48f}, {-0.44f, 0.36f}},
+                             0.058f,
+                             0.022f};
+
 static void Beast(Scene& P, const std::string& Kind, float X, float Y, float S, float Hand,
                   float Far)
 {
-    const bool Camel = Kind == "camels", Deer = Kind == "deer";
-    const Rgb Local = Camel        ? Hex(0xb08450)
-                      : Deer       ? Hex(0xa4683c)
-                      : P.Seed % 2 ? Hex(0x6c4430)
-                                   : Hex(0xe8e0d4);
-    const Rgb Body = Lit(P, Local, 0.6f, Far), Shade = Lit(P, Times(Local, 0.7f), 0.2f, Far);
-    for (float Leg : {-0.26f, -0.18f, 0.20f, 0.28f})
-        Touch(P,
-              {{X + Leg * S, Y - S * 0.45f},
-               {X + (Leg + 0.02f) * S, Y - S * 0.22f},
-               {X + Leg * S * 1.05f, Y}},
-              S * 0.045f, S * 0.022f + 0.2f, Leg < -0.2f || Leg > 0.25f ? Shade : Body);
-    Dab(P.C, X, Y - S * 0.52f, S * 0.70f, S * 0.26f, 0, Shade, 1);
-    Dab(P.C, X, Y - S * 0.56f, S * 0.66f, S * 0.20f, 0, Body, 1);
-    if (Camel)
-        for (float Hump : {-0.12f, 0.12f})
-            Dab(P.C, X + Hump * S, Y - S * 0.70f, S * 0.24f, S * 0.22f, 0, Body, 1);
-    const float HX = X + Hand * S * (Camel ? 0.58f : 0.48f), HY = Y - S * (Camel  ? 0.98f
-                                                                           : Deer ? 1.0f
-                                                                                  : 0.92f);
-    if (Camel)
-        Touch(P,
-              {{X + Hand * S * 0.30f, Y - S * 0.55f},
-               {X + Hand * S * 0.50f, Y - S * 0.56f},
-               {HX - Hand * S * 0.04f, HY}},
-              S * 0.09f, S * 0.05f, Body);
-    else
-        Touch(P,
-              {{X + Hand * S * 0.28f, Y - S * 0.56f},
-               {X + Hand * S * 0.42f, Y - S * 0.80f},
-               {HX - Hand * S * 0.02f, HY}},
-              S * 0.10f, S * 0.05f, Body);
-    Dab(P.C, HX + Hand * S * 0.05f, HY + S * 0.01f, S * 0.22f, S * 0.10f, Hand * 0.35f, Body, 1);
-    if (Deer)
+    static constexpr std::uint32_t Coats[] = {0x6c4430, 0xe8e0d4, 0x3c302c, 0xa87850};
+    const bool IsDeer = Kind == "deer", IsCamel = Kind == "camels";
+    const BeastLook& Look = IsCamel ? Camel : IsDeer ? Deer : Any(P.C) < 0.4f ? Grazing : Horse;
+    const Rgb Local = IsCamel ? Hex(0xb88c58) : IsDeer ? Hex(0xa4683c) : Hex(Coats[AnyOf(P.C, 4)]);
+    const Rgb Body = Lit(P, Local, 0.8f, Far), Shade = Lit(P, Times(Local, 0.7f), 0.2f, Far);
+    const auto Placed = [&](Line Way) {
+        for (Point& K : Way) K = {X + Hand * K.X * S, Y - K.Y * S};
+        return Curve(Way, 5);
+    };
+    SoftDab(P.C, X, Y, S * 0.6f, S * 0.08f, Lit(P, Hex(0x303028), 0.1f, Far), 0.6f);
+    for (int I = 0; I < 4; ++I) // the two far legs first
+        Stroke(P.C, Placed(Look.Legs[I]), Look.Thigh * S, Look.Shank * S + 0.2f,
+               I < 2 ? Times(Shade, 0.8f) : Mix(Shade, Body, 0.4f));
+    Line Outline = Look.Body;
+    Outline.push_back(Outline.front());
+    Draw(P.C, [&](QPainter& Q) {
+        QPainterPath Path;
+        const Line Way = Placed(Outline);
+        for (std::size_t I = 0; I < Way.size(); ++I)
+            I == 0 ? Path.moveTo(Way[I].X, Way[I].Y) : Path.lineTo(Way[I].X, Way[I].Y);
+        QLinearGradient G(0, Y - S, 0, Y - S * 0.38f);
+        G.setColorAt(0, ToQColor(Body)), G.setColorAt(0.5, ToQColor(Body));
+        G.setColorAt(1, ToQColor(Shade));
+        Q.fillPath(Path, G);
+    });
+    Stroke(P.C, Placed(Look.Tail), 0.035f * S, 0.4f, Shade);
+    if (IsDeer)
         for (float A : {0.0f, 0.10f})
-            Touch(P,
-                  {{HX, HY - S * 0.04f},
-                   {HX - Hand * S * (0.05f + A), HY - S * 0.18f},
-                   {HX + Hand * S * (0.04f - A), HY - S * 0.34f}},
-                  S * 0.016f + 0.2f, 0.4f, Shade);
-    if (!Deer)
-        Touch(P, {{X - Hand * S * 0.32f, Y - S * 0.56f}, {X - Hand * S * 0.40f, Y - S * 0.30f}},
-              S * 0.03f, 0.5f, Shade);
-    if (Camel) { // load
-        Dab(P.C, X, Y - S * 0.66f, S * 0.20f, S * 0.24f, 0, Lit(P, Hex(0xb03c34), 0.6f, Far), 1);
-    }
+            Stroke(P.C, Placed({{0.28f, 1.0f}, {0.22f - A, 1.12f}, {0.30f - A, 1.30f}}),
+                   S * 0.016f + 0.2f, 0.4f, Shade);
+    if (IsCamel) // its load
+        Dab(P.C, X - Hand * S * 0.03f, Y - S * 0.66f, S * 0.22f, S * 0.26f, 0,
+            Lit(P, Hex(0xb03c34), 0.6f, Far), 1);
+    if (!IsDeer && !IsCamel && &Look == &Horse)
+        Stroke(P.C, Placed({{0.18f, 0.68f}, {0.29f, 0.84f}, {0.40f, 0.99f}}), S * 0.035f, S * 0.02f,
+               Times(Shade, 0.7f));
 }
 
 static void Walker(Scene& P, float X, float Y, float S, bool Umbrella, int Robe)
