@@ -190,3 +190,84 @@ void StoneSteps(Scene& P, const Line& Middle, float From, float To, int Count, R
         }
     }
 }
+
+static bool LampsAreLit(const Scene& P)
+{
+    return P.Night || P.L->Kind == 'e' || P.Plan.Weather == "rain";
+}
+
+void PaperLamp(Scene& P, float X, float Y, float Size, Rgb Paper, float Far)
+{
+    if (!LampsAreLit(P)) {
+        Dab(P.C, X, Y, Size * 1.45f, Size * 1.05f, Pi / 2, Lit(P, Paper, 0.7f, Far), 1);
+        return;
+    }
+    SoftDab(P.C, X, Y, Size * 3.2f, Size * 3.2f, Mix(Paper, Hex(0xffc060), 0.5f), 0.5f);
+    Dab(P.C, X, Y, Size * 1.45f, Size * 1.05f, Pi / 2, Paper, 1);
+    Dab(P.C, X, Y, Size * 0.8f, Size * 0.6f, Pi / 2, Mix(Paper, Hex(0xfff0b0), 0.7f), 0.9f);
+}
+
+void PaintFacade(Scene& P, const Wall& W, std::uint32_t Kind, float Far, float Vanish)
+{
+    static constexpr Rgb Walls[] = {{0.86f, 0.78f, 0.64f},
+                                    {0.55f, 0.36f, 0.24f},
+                                    {0.90f, 0.86f, 0.78f},
+                                    {0.62f, 0.28f, 0.20f},
+                                    {0.45f, 0.42f, 0.38f}};
+    const Rgb Local = Walls[(Kind + P.Seed) % 5];
+    const float Tall = W.Tall, Side = float(W.Side);
+    const bool Lights = LampsAreLit(P);
+    const auto Between = [&](float T, float Up) { return W.Spot(Lerp(W.Off, W.Near, T), Up); };
+    const auto Panel = [&](float T0, float T1, float Low, float High) {
+        return QPolygonF(
+            {Between(T0, Low), Between(T0, High), Between(T1, High), Between(T1, Low)});
+    };
+    Draw(P.C, [&](QPainter& Q) {
+        const float Shade = 0.42f + 0.25f * Side * (P.SunX > Vanish ? -1.0f : 1.0f);
+        Q.setBrush(ToQColor(Lit(P, Local, Shade, Far)));
+        Q.drawPolygon(Panel(0, 1, 0, Tall));
+        Q.setBrush(ToQColor(Lit(P, Times(Local, 0.7f), Shade - 0.1f, Far))); // a plinth of stone
+        Q.drawPolygon(Panel(0, 1, -2, Tall * 0.07f));
+        for (int Floor = 0; Floor < 2; ++Floor)
+            for (int K = 0; K < 3; ++K) { // shop fronts below, shutters above
+                const float T0 = 0.08f + 0.31f * float(K), T1 = T0 + 0.24f,
+                            Low = Floor ? Tall * 0.55f : Tall * 0.08f,
+                            High = Floor ? Tall * 0.82f : Tall * 0.40f;
+                const bool On = Lights && (std::uint32_t(K + Floor) + Kind + P.Seed) % 3;
+                Q.setBrush(ToQColor(
+                    On ? Fade(P, Mix(Hex(0xffb848), Hex(0xffe8a8), 0.3f * float(K)), Far * 0.6f)
+                       : Lit(P, Hex(0x4c3c34), 0.3f, Far)));
+                Q.drawPolygon(Panel(T0, T1, Low, High));
+                Q.setPen(QPen(ToQColor(Lit(P, Hex(0x3c2c24), 0.3f, Far)), 0.7 + 1.4 * W.Near));
+                for (int Bar = 1; Bar < 4; ++Bar)
+                    Q.drawLine(Between(Lerp(T0, T1, float(Bar) / 4), Low),
+                               Between(Lerp(T0, T1, float(Bar) / 4), High));
+                Q.drawLine(Between(T0, (Low + High) / 2), Between(T1, (Low + High) / 2));
+                Q.setPen(Qt::NoPen);
+            }
+        const Rgb Tile = P.Snow ? Hex(0xeaf0f8) : Kind % 3 ? Hex(0x464c54) : Hex(0x74483c);
+        for (const float Up : {0.46f, 1.0f}) { // eaves reach over the street
+            const float Reach = Up > 0.9f ? 30 : 38;
+            const auto Eave = [&](float D) {
+                const QPointF K = W.Spot(D, Tall * Up - 10);
+                return QPointF(K.x() - Side * Reach * D, K.y() + 16 * D);
+            };
+            Q.setBrush(ToQColor(Lit(P, Tile, 0.6f, Far)));
+            Q.drawPolygon(QPolygonF({W.Spot(W.Off, Tall * Up + 24), Eave(W.Off), Eave(W.Near),
+                                     W.Spot(W.Near, Tall * Up + 24)}));
+            Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.75f), 0.4f, Far)), 0.5 + W.Near));
+            for (int K = 1; K < 12; ++K) { // courses of tiles
+                const float D = Lerp(W.Off, W.Near, float(K) / 12);
+                Q.drawLine(W.Spot(D, Tall * Up + 24), Eave(D));
+            }
+            Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.5f), 0.2f, Far)), 0.8 + 3 * W.Near));
+            Q.drawLine(Eave(W.Off), Eave(W.Near));
+            Q.setPen(Qt::NoPen);
+        }
+    });
+    static constexpr std::uint32_t Papers[] = {0xe83828, 0xffb040, 0xf8e0b0};
+    const QPointF Door = Between(0.2f, Tall * 0.36f);
+    if (W.Near > 0.08f)
+        PaperLamp(P, float(Door.x()) - Side * 30 * W.Near, float(Door.y()), 3 + 20 * W.Near,
+                  Hex(Papers[(P.Seed + Kind) % 3]), Far);
+}

@@ -15,6 +15,17 @@ void CutRock(Scene& P, const QPainterPath& Path, float X, float Half, Rgb Local,
 // Steps of stone that come down along Middle and widen towards us.
 void StoneSteps(Scene& P, const Line& Middle, float From, float To, int Count, Rgb Local);
 
+void PaperLamp(Scene& P, float X, float Y, float Size, Rgb Paper, float Far);
+
+// A house front along a street. Spot turns a depth into the street, 0 far to 1 near, and a height
+// into a place; the front reaches from depth Off to Near on Side -1 left or 1 right.
+struct Wall {
+    std::function<QPointF(float Depth, float Up)> Spot;
+    float Off, Near, Tall;
+    int Side;
+};
+void PaintFacade(Scene& P, const Wall& Front, std::uint32_t Kind, float Far, float Vanish);
+
 // The sky without its own sun or moon, for pictures that set a greater one.
 void PaintSkyWithoutOrb(Scene& P, float Horizon);
 

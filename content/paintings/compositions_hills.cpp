@@ -207,11 +207,31 @@ void PaintGorge(Scene& P)
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, 130, H + 30, P.Snow ? 0.9f : 0.25f, 0.4f);
     PaintMist(P, H + 50, 60, 0.8f);
-    const float Deck = Any(P.C, 190, 240);
+    const float Deck = Any(P.C, 180, 230);
+    for (int I = 0; I < 4; ++I) // walls behind each other into the depth, a fall of light between
+        for (int Side = -1; Side <= 1; Side += 2) {
+            const float T = float(I) / 3,
+                        In = 360 + float(Side) * (26 + 46 * T) + Any(P.C, -10, 10),
+                        Top = H - 6 + (Deck - H + 30) * T + Any(P.C, -12, 12);
+            QPainterPath Path(QPointF(In + float(Side) * 420, Height));
+            Path.lineTo(In + float(Side) * 420, Top - 40);
+            for (int K = 0; K <= 10; ++K)
+                Path.lineTo(In + float(Side) * (70 * std::pow(1 - float(K) / 10, 2.0f) +
+                                                14 * Noise(float(K) * 0.9f, T * 9, P.Seed)),
+                            Lerp(Top, 400.0f, float(K) / 10));
+            CutRock(P, Path, In + float(Side) * 90, 120, Mix(RockColour(P), WoodColour(P), 0.35f),
+                    1.5f - 1.05f * T, 280 + 30 * T, 410 + 40 * T);
+            for (int K = 0; K < 3; ++K)
+                PaintTree(P, P.Snow ? Tree::Fir : Tree::Pine, In + float(Side) * Any(P.C, 60, 150),
+                          Top + Any(P.C, -14, 6), 16 + 22 * T, 1.4f - T);
+        }
+    const Mask Stream = Along({{366, 300}, {340, 340}, {384, 380}, {350, Height + 20}}, 4, 44);
+    PaintWater(P, &Stream, 296, 0.9f, 0.2f);
+    PaintMist(P, 330, 40, 0.35f, 1.5f);
     float Ends[2] = {};
     for (int K = 0; K < 2; ++K) {
         const float Side = K ? 1 : -1;
-        const float Reach = Any(P.C, 170, 240), In = 360 + Side * (360 - Reach);
+        const float Reach = Any(P.C, 130, 240), In = 360 + Side * (360 - Reach);
         Ends[K] = In;
         QPainterPath Cliff(QPointF(360 + Side * 380, Deck - Any(P.C, 20, 80)));
         Cliff.lineTo(In + Side * Reach * 0.5f, Deck - 16);
@@ -251,7 +271,7 @@ void PaintGorge(Scene& P)
         if (K == int(P.Seed % 2)) PaintFall(P, 360 + Side * 225, Deck + 16, Height + 10, 16, 0.35f);
     }
     Bridge(P, Ends[0] - 8, Ends[1] + 8, Deck + 2, Any(P.C, 10, 54), 0.15f, P.Seed % 3 == 0);
-    PaintMist(P, Height - 20, 50, 0.75f);
+    PaintMist(P, Height - 4, 40, 0.5f);
     P.Horizon = Deck;
     PaintLife(P, Deck - 20);
     if (P.Seed % 4 == 1) Overhang(P, P.Plan.Season == "autumn" ? Tree::Maple : Tree::Pine, 220);

@@ -454,81 +454,23 @@ void PaintMoonGate(Scene& P)
 
 void PaintStreet(Scene& P)
 {
-    const float H = Vary(P, 168, 250), X = Any(P.C, 300, 420);
+    const float H = Vary(P, 150, 250), X = Vary(P, 220, 500, 2);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 2, Any(P.C, 70, 110), H, P.Snow ? 0.9f : 0.2f,
            0.5f);
     PaintMotif(P, P.Plan.Motif, X, H + 12, 130, 0.5f);
     PaintMist(P, H, 20, 0.5f);
-    static constexpr Rgb Walls[] = {{0.86f, 0.78f, 0.64f},
-                                    {0.55f, 0.36f, 0.24f},
-                                    {0.90f, 0.86f, 0.78f},
-                                    {0.62f, 0.28f, 0.20f},
-                                    {0.45f, 0.42f, 0.38f}};
     PaintMeadow(P, nullptr, H + 8, Hex(0xa49884), Hex(0xb4a890), 0.3f);
-    const bool Lights = P.Night || P.L->Kind == 'e' || P.Plan.Weather == "rain";
     const auto Depth = [](int I) { return 0.055f + 0.945f * std::pow(float(I) / 7, 1.9f); };
-    for (int I = 0; I < 7; ++I) {
+    for (int I = 0; I < 10; ++I) {
         for (int Side = -1; Side <= 1; Side += 2) {
-            const float Near = Depth(I + 1), Off = Depth(I), Far = 0.75f * (1 - float(I) / 6);
-            const float Tall = Any(P.C, 190, 280);
-            const Rgb Wall = Walls[(I * 2 + Side + 1 + int(P.Seed)) % 5];
-            const auto Spot = [&](float D, float Up) {
-                return QPointF(X + float(Side) * (20 + 330 * D), H + 8 + 190 * D - Up * D);
-            };
-            const auto Between = [&](float T, float Up) { return Spot(Lerp(Off, Near, T), Up); };
-            Draw(P.C, [&](QPainter& Q) {
-                const float Shade = 0.42f + 0.25f * float(Side) * (P.SunX > X ? -1.0f : 1.0f);
-                Q.setBrush(ToQColor(Lit(P, Wall, Shade, Far)));
-                Q.drawPolygon(
-                    QPolygonF({Spot(Off, 0), Spot(Off, Tall), Spot(Near, Tall), Spot(Near, 0)}));
-                for (int Floor = 0; Floor < 2; ++Floor)
-                    for (int K = 0; K < 3; ++K) { // shop fronts below, shutters above
-                        const float T0 = 0.08f + 0.31f * float(K), T1 = T0 + 0.24f,
-                                    Low = Floor ? Tall * 0.55f : 4,
-                                    High = Floor ? Tall * 0.82f : Tall * 0.40f;
-                        const bool On = Lights && (K + I + Floor + int(P.Seed)) % 3;
-                        Q.setBrush(ToQColor(
-                            On ? Fade(P, Mix(Hex(0xffc050), Hex(0xffe8a8), 0.3f * float(K)),
-                                      Far * 0.6f)
-                               : Lit(P, Hex(0x4c3c34), 0.3f, Far)));
-                        Q.drawPolygon(QPolygonF({Between(T0, Low), Between(T0, High),
-                                                 Between(T1, High), Between(T1, Low)}));
-                        Q.setPen(
-                            QPen(ToQColor(Lit(P, Hex(0x3c2c24), 0.3f, Far)), 0.7 + 1.4 * Near));
-                        Q.drawLine(Between((T0 + T1) / 2, Low), Between((T0 + T1) / 2, High));
-                        Q.drawLine(Between(T0, (Low + High) / 2), Between(T1, (Low + High) / 2));
-                        Q.setPen(Qt::NoPen);
-                    }
-                const Rgb Tile = P.Snow ? Hex(0xeaf0f8) : Hex(0x464c54);
-                for (float Up : {0.46f, 1.0f}) { // eaves reach over the street
-                    const float Reach = Up > 0.9f ? 30 : 38;
-                    const auto Eave = [&](float D) {
-                        const QPointF K = Spot(D, Tall * Up - 10);
-                        return QPointF(K.x() - Side * Reach * D, K.y() + 16 * D);
-                    };
-                    Q.setBrush(ToQColor(Lit(P, Tile, 0.6f, Far)));
-                    Q.drawPolygon(QPolygonF({Spot(Off, Tall * Up + 24), Eave(Off), Eave(Near),
-                                             Spot(Near, Tall * Up + 24)}));
-                    Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.5f), 0.2f, Far)), 0.8 + 3 * Near));
-                    Q.drawLine(Eave(Off), Eave(Near));
-                    Q.setPen(Qt::NoPen);
-                }
-            });
-            if (I > 0) { // a paper lamp at each door
-                const QPointF K = Between(0.2f, Tall * 0.36f);
-                const float LX = float(K.x()) - float(Side) * 30 * Near, LY = float(K.y()),
-                            S = 3 + 20 * Near;
-                static constexpr std::uint32_t Papers[] = {0xe83828, 0xffb040, 0xf8e0b0};
-                const Rgb Paper = Hex(Papers[(P.Seed + std::uint32_t(I)) % 3]);
-                if (Lights)
-                    SoftDab(P.C, LX, LY, S * 3.2f, S * 3.2f, Mix(Paper, Hex(0xffc060), 0.5f), 0.5f);
-                Dab(P.C, LX, LY, S * 1.45f, S * 1.05f, Pi / 2,
-                    Lights ? Paper : Lit(P, Paper, 0.7f, Far), 1);
-                if (Lights)
-                    Dab(P.C, LX, LY, S * 0.8f, S * 0.6f, Pi / 2, Mix(Paper, Hex(0xfff0b0), 0.7f),
-                        0.9f);
-            }
+            const Wall Front{[&, Side](float D, float Up) {
+                                 return QPointF(X + float(Side) * (20 + 330 * D),
+                                                H + 8 + 190 * D - Up * D);
+                             },
+                             Depth(I), Depth(I + 1), Any(P.C, 190, 280), Side};
+            PaintFacade(P, Front, std::uint32_t(I * 2 + Side + 1), 0.75f * Clamp(1 - float(I) / 6),
+                        X);
         }
         if (I == 3 && P.Seed % 3 == 0) Bridge(P, X - 80, X + 80, H + 40, 18, 0.4f, false);
     }

@@ -212,98 +212,69 @@ void PaintVeranda(Scene& P)
     }
 }
 
+// A town that comes down a hill, house before house, from the height From to To.
+static void HillTown(Scene& P, float From, float To, float Largest)
+{
+    for (int Row = 0; Row < 11; ++Row) {
+        const float T = float(Row) / 10, Y = Lerp(From, To, 0.4f * T + 0.6f * T * T),
+                    Size = Largest * (0.24f + 0.76f * T), Far = 1.0f * (1 - T) * (1 - T);
+        for (float X = Any(P.C, -1, 0) * Size; X < Width + Size;
+             X += Size * Any(P.C, 1.15f, 1.75f)) {
+            const float HillY = Y + 26 * (Noise(X / 150, T * 3, P.Seed) - 0.5f) * (1 + T) +
+                                Any(P.C, -0.2f, 0.2f) * Size;
+            if (Any(P.C) < 0.22f)
+                PaintTree(P, SeasonTree(P), X + Size * 0.7f, HillY, Size * Any(P.C, 1.1f, 1.7f),
+                          Far);
+            Cottage(P, X, HillY, Size * Any(P.C, 0.85f, 1.35f), Far, AnyOf(P.C, 12));
+            if ((P.Night || P.L->Kind == 'e') && Any(P.C) < 0.3f)
+                PaperLamp(P, X + Size * 0.6f, HillY - Size * 0.3f, 1 + 3 * T,
+                          Hex(Any(P.C) < 0.5f ? 0xffb048 : 0xe84830), Far);
+        }
+        if (Row == 3) PaintMist(P, Y + 10, 14, 0.35f);
+    }
+}
+
 void PaintAlley(Scene& P)
 {
-    const float H = Vary(P, 90, 140), X = Any(P.C, 330, 390);
+    const float H = Vary(P, 84, 150), X = Vary(P, 250, 470, 2);
     PaintSky(P, H + 60);
-    PaintMotif(P, P.Plan.Motif, X, H + 30, 130, 0.7f);
-    PaintMist(P, H + 30, 30, 0.5f);
-    static constexpr Rgb Walls[] = {{0.84f, 0.72f, 0.56f},
-                                    {0.62f, 0.42f, 0.30f},
-                                    {0.88f, 0.84f, 0.76f},
-                                    {0.70f, 0.34f, 0.26f},
-                                    {0.52f, 0.56f, 0.58f}};
-    PaintMeadow(P, nullptr, H + 26, Hex(0x948878), Hex(0xa89c88), 0.2f);
-    const int Steps = 30;
-    for (int I = 0; I < Steps; ++I) { // a stair that fills the gap
-        const float T = std::pow(float(I) / (Steps - 1), 1.35f), Y = Lerp(H + 30, Height + 10, T),
-                    Half = 24 + 150 * T, Thick = 2 + 8 * T, MX = X + 40 * std::sin(T * 2.4f);
-        Stroke(P.C, {{MX - Half, Y + Thick}, {MX + Half, Y + Thick}}, Thick * 0.6f, Thick * 0.6f,
-               Lit(P, Hex(0x6c645c), 0.2f, 0.5f * (1 - T)), 1);
-        Stroke(P.C, {{MX - Half, Y}, {MX, Y + AnyBell(P.C)}, {MX + Half, Y}}, Thick * 0.55f,
-               Thick * 0.55f,
-               Lit(P, P.Snow ? Hex(0xeef2f8) : Times(Hex(0xb8ac9c), Any(P.C, 0.85f, 1.1f)), 0.7f,
-                   0.5f * (1 - T)),
-               1);
-    }
-    const bool Lights = P.Night || P.L->Kind == 'e' || P.Plan.Weather == "rain";
+    Ranges(P, Hill::Soft, 2, 60, H + 40, P.Snow ? 0.6f : 0, 0.5f);
+    PaintMotif(P, P.Plan.Motif, X, H + 34, 130, 0.6f);
+    PaintMist(P, H + 36, 26, 0.5f);
+    PaintMeadow(P, nullptr, H + 30, Hex(0x948878), Hex(0xa89c88), 0.2f);
+    HillTown(P, H + 50, Height - 20, 84);
+    const float Bend = Vary(P, -60, 60, 5); // the stair swings up to the gate
+    const auto Way = [&](float D) { return X + Bend * std::sin(D * 2.6f); };
+    const auto GroundY = [&](float D) { return H + 34 + 370 * std::pow(D, 1.2f); };
+    StoneSteps(P,
+               {{Way(0), GroundY(0)},
+                {Way(0.3f), GroundY(0.3f)},
+                {Way(0.65f), GroundY(0.65f)},
+                {Way(1), GroundY(1) + 20}},
+               20, 230, 34, Hex(0xb8ac9c));
+    const auto Depth = [](int I) { return 0.05f + 1.1f * std::pow(float(I) / 6, 1.8f); };
     for (int I = 0; I < 6; ++I) { // house over house up the stair
-        const float T = float(I) / 5, D = 0.12f + 0.88f * T * T, Far = 0.6f * (1 - T);
+        const float Near = Depth(I + 1), Off = Depth(I), Far = 0.6f * (1 - float(I) / 5);
         for (int Side = -1; Side <= 1; Side += 2) {
-            const float In = X + 40 * std::sin(D * 2.4f) + float(Side) * (26 + 150 * D),
-                        Foot = H + 40 + 330 * D, W = 70 + 200 * D,
-                        Tall = (120 + 250 * D) * Any(P.C, 0.85f, 1.1f);
-            const Rgb Wall = Walls[(std::size_t(I) * 2 + std::size_t(Side + 1) + P.Seed) % 5];
-            const float Left = Side < 0 ? In - W : In, S = 1 + 1.2f * D;
-            Draw(P.C, [&](QPainter& Q) {
-                Q.fillRect(
-                    QRectF(Left, Foot - Tall, W, Tall + 90),
-                    ToQColor(Lit(P, Wall, 0.4f - 0.14f * float(Side) * (P.SunX > X ? -1.0f : 1.0f),
-                                 Far)));
-                for (int Floor = 0; Floor < 3; ++Floor)
-                    for (int K = 0; K < 2; ++K) {
-                        const bool On = Lights && (I + Floor * 2 + K + Side + int(P.Seed)) % 3;
-                        const QRectF Pane(Left + W * (0.16f + 0.42f * float(K)),
-                                          Foot - Tall * (0.34f + 0.30f * float(Floor)), W * 0.26f,
-                                          Tall * 0.17f);
-                        Q.fillRect(Pane.adjusted(-2 * S, -2 * S, 2 * S, 2 * S),
-                                   ToQColor(Lit(P, Times(Wall, 0.55f), 0.4f, Far)));
-                        Q.fillRect(Pane, ToQColor(On ? Fade(P, Hex(0xffc868), Far * 0.5f)
-                                                     : Lit(P, Hex(0x383438), 0.3f, Far)));
-                        Q.setPen(QPen(ToQColor(Lit(P, Times(Wall, 0.4f), 0.3f, Far)), 0.8 * S));
-                        Q.drawLine(Pane.center() - QPointF(0, Pane.height() / 2),
-                                   Pane.center() + QPointF(0, Pane.height() / 2));
-                        Q.drawLine(QPointF(Pane.left(), Pane.center().y()),
-                                   QPointF(Pane.right(), Pane.center().y()));
-                        Q.setPen(Qt::NoPen);
-                    }
-                const Rgb Tile = P.Snow ? Hex(0xeaf0f8) : I % 2 ? Hex(0x4c545c) : Hex(0x8c5440);
-                for (const float Up : {0.42f, 1.0f}) {
-                    const double Y = Foot - Tall * Up, Out = 18 + 24 * D;
-                    Q.setBrush(ToQColor(Lit(P, Tile, 0.6f, Far)));
-                    Q.drawPolygon(QPolygonF({{Left - Out, Y + 10 * S},
-                                             {Left + 4, Y - 14 * S},
-                                             {Left + W - 4, Y - 14 * S},
-                                             {Left + W + Out, Y + 10 * S}}));
-                    Q.setBrush(ToQColor(Lit(P, Times(Tile, 0.45f), 0.2f, Far)));
-                    Q.drawRect(QRectF(Left - Out, Y + 9 * S, W + 2 * Out, 3 * S));
-                }
-            });
-            const float LX = In - float(Side) * (6 + 10 * D), LY = Foot - Tall * 0.30f,
-                        Size = 4 + 17 * D;
-            const Rgb Paper = (I + Side) % 3 ? Hex(0xe84830) : Hex(0xffb848);
-            if (Lights)
-                SoftDab(P.C, LX, LY, Size * 3.4f, Size * 3.4f, Mix(Paper, Hex(0xffc060), 0.5f),
-                        0.5f);
-            Dab(P.C, LX, LY, Size * 1.5f, Size * 1.1f, Pi / 2,
-                Lights ? Paper : Lit(P, Paper, 0.7f, Far), 1);
-            if (Lights) Dab(P.C, LX, LY + 1, Size * 0.9f, Size * 0.6f, Pi / 2, Hex(0xfff0b0), 0.8f);
+            const Wall Front{[&, Side](float D, float Up) {
+                                 return QPointF(Way(D) + float(Side) * (19 + 225 * D),
+                                                GroundY(D) - Up * (0.14f + 0.86f * D));
+                             },
+                             Off, Near, Any(P.C, 170, 300), Side};
+            PaintFacade(P, Front, std::uint32_t(I * 2 + Side + 1), Far, X);
         }
-        if (I > 1 && I < 5) { // a line of lamps across
-            for (int K = 0; K <= 8; ++K) {
-                const float U = float(K) / 4 - 1,
-                            LX = X + 40 * std::sin(D * 2.4f) + U * (26 + 150 * D),
-                            LY = H + 30 + 150 * D - 60 * D + 30 * D * (1 - U * U), Size = 2 + 6 * D;
-                if (Lights) SoftDab(P.C, LX, LY, Size * 3, Size * 3, Hex(0xffa040), 0.4f);
-                Dab(P.C, LX, LY, Size * 1.3f, Size, Pi / 2,
-                    Lights ? Hex(0xffc870) : Lit(P, Hex(0xe05038), 0.7f, Far), 1);
+        if (I > 0 && I < 5) // a line of lamps across
+            for (int K = 1; K < 8; ++K) {
+                const float U = float(K) / 4 - 1;
+                PaperLamp(P, Way(Near) + U * (19 + 225 * Near),
+                          GroundY(Near) - (175 - 34 * (1 - U * U)) * (0.14f + 0.86f * Near),
+                          1.5f + 7 * Near, Hex(K % 3 ? 0xffb048 : 0xe84830), Far);
             }
-        }
     }
     const std::vector<Rgb> Exact = P.C.Px; // plain walls want the touch of a brush
     for (float& Flow : P.C.Flow) Flow = 0.25f * AnyBell(P.C);
-    Repaint(P.C, nullptr, {{3.2f, 4, -1, 0.09f}, {1.6f, 4, 0.10f, 0.05f}});
-    for (std::size_t I = 0; I < Exact.size(); ++I) P.C.Px[I] = Mix(P.C.Px[I], Exact[I], 0.3f);
+    Repaint(P.C, nullptr, {{2.4f, 4, -1, 0.07f}});
+    for (std::size_t I = 0; I < Exact.size(); ++I) P.C.Px[I] = Mix(P.C.Px[I], Exact[I], 0.45f);
     PaintLife(P, H + 200);
 }
 
@@ -366,10 +337,13 @@ void PaintCamp(Scene& P)
         const float PX = X + (I % 2 ? 1.0f : -1.0f) * (34 + 20 * float(I / 2)),
                     PY = Y + 6 + 4 * float(I);
         const Rgb Cloak = Lit(P, I % 2 ? Hex(0x904030) : Hex(0x405878), 0.5f, 0);
-        Dab(P.C, PX, PY - 9, 22, 17, Pi / 2, Cloak, 1);
-        Dab(P.C, PX + (PX < X ? 5.0f : -5.0f), PY - 10, 12, 5, Pi / 2,
-            Mix(Cloak, Hex(0xffa850), 0.6f), 0.8f);
-        Dab(P.C, PX, PY - 23, 9, 9, 0, Lit(P, Hex(0x503828), 0.5f, 0), 1);
+        const float In = PX < X ? 1.0f : -1.0f; // towards the fire
+        Stroke(P.C, {{PX + In * 2, PY - 22}, {PX, PY - 10}, {PX - In, PY}}, 4, 11, Cloak, 1);
+        Stroke(P.C, {{PX + In * 5, PY - 20}, {PX + In * 8, PY - 4}}, 1.5f, 3.5f,
+               Mix(Cloak, Hex(0xffa850), 0.6f), 0.8f);
+        Stroke(P.C, {{PX + In * 3, PY - 14}, {PX + In * 13, PY - 9}}, 2.2f, 1.5f, Cloak, 1);
+        Dab(P.C, PX + In * 3, PY - 26, 8, 9, 0, Lit(P, Hex(0x503828), 0.5f, 0), 1);
+        Dab(P.C, PX + In * 5, PY - 26, 4, 6, 0, Mix(Hex(0xc88858), Hex(0xffb060), 0.4f), 0.9f);
     }
     PaintLife(P, H + 96);
     Grasses(P, 0, 720, Height + 6, 36, 240, P.Snow ? Hex(0xb8b0a0) : GroundColour(P), 0);
@@ -382,46 +356,37 @@ void PaintRooftops(Scene& P)
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 3, 90, H + 8, P.Snow ? 0.9f : 0.2f, 0.6f);
     PaintMist(P, H + 10, 26, 0.6f);
     PaintMeadow(P, nullptr, H + 6, Hex(0x70786c), Hex(0x80887c), 0.4f);
-    PaintMotif(P, P.Plan.Motif, Vary(P, 230, 500, 3), H + 84, 170, 0.4f);
-    static constexpr std::uint32_t Tiles[] = {0x586470, 0x6c5c54, 0x4c5c60, 0x94604c};
-    for (int Row = 0; Row < 8; ++Row) { // roofs in rows, each before the next
-        const float T = float(Row) / 7, Y = H + 40 + 120 * T + 130 * T * T, Size = 22 + 66 * T;
-        for (int I = 0; I < 12 - Row; ++I) {
-            const float X = (float(I) + 0.5f + Any(P.C, -0.3f, 0.3f)) * 740 / float(12 - Row) - 10,
-                        W = Size * Any(P.C, 0.9f, 1.3f), Far = 0.9f * (1 - T);
-            if (Any(P.C) < 0.3f) PaintTree(P, SeasonTree(P), X + W, Y, Size * 1.2f, Far);
-            const Rgb Tile = P.Snow ? Hex(0xecf2f8) : Hex(Tiles[AnyOf(P.C, 4)]);
-            Draw(P.C, [&](QPainter& Q) {
-                Q.fillRect(QRectF(X - W * 0.7f, Y - Size * 0.1f, W * 1.4f, Size),
-                           ToQColor(Lit(P, Hex(0xd8ccb4), 0.4f, Far)));
-                for (int K = -1; K <= 1; ++K)
-                    Q.fillRect(QRectF(X + float(K) * W * 0.42f - W * 0.1f, Y + Size * 0.16f,
-                                      W * 0.2f, Size * 0.26f),
-                               (P.Night || P.L->Kind == 'e') && (K + I + Row) % 3
-                                   ? ToQColor(Fade(P, Hex(0xffc460), Far * 0.5f))
-                                   : ToQColor(Lit(P, Hex(0x403c3c), 0.3f, Far)));
-                QPainterPath Roof(QPointF(X - W, Y + Size * 0.06f));
-                Roof.quadTo(X - W * 0.6f, Y - Size * 0.1f, X - W * 0.5f, Y - Size * 0.5f);
-                Roof.lineTo(X + W * 0.5f, Y - Size * 0.5f);
-                Roof.quadTo(X + W * 0.6f, Y - Size * 0.1f, X + W, Y + Size * 0.06f);
-                Roof.closeSubpath();
-                QLinearGradient G(0, Y - Size * 0.5f, 0, Y);
-                G.setColorAt(0, ToQColor(Lit(P, Tile, 0.85f, Far)));
-                G.setColorAt(1, ToQColor(Lit(P, Tile, 0.4f, Far)));
-                Q.fillPath(Roof, G);
-                Q.setClipPath(Roof);
-                Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.6f), 0.3f, Far), 0.6f), 0.7 + T));
-                for (int K = -7; K <= 7; ++K)
-                    Q.drawLine(QPointF(X + W * 0.075 * K, Y - Size * 0.5f),
-                               QPointF(X + W * 0.145 * K, Y + Size * 0.06f));
-                Q.setClipping(false);
-                Q.setPen(QPen(ToQColor(Lit(P, Times(Tile, 0.7f), 0.8f, Far)), 1 + 2.4 * T));
-                Q.drawLine(QPointF(X - W * 0.53f, Y - Size * 0.5f),
-                           QPointF(X + W * 0.53f, Y - Size * 0.5f));
-            });
-        }
-        if (Row == 2) PaintMist(P, Y + 10, 12, 0.3f);
+    PaintMotif(P, P.Plan.Motif, Vary(P, 130, 590, 4), H + 64, 150, 0.45f);
+    HillTown(P, H + 44, Height - 101, 66);
+    // the ridge of the nearest roof, and who sits on it
+    const float Hand = P.Seed % 2 ? 1.0f : -1.0f;
+    const auto RidgeY = [&](float X) {
+        const float U = (X - 360) * Hand / 360;
+        return Height - 30 - 44 * U * std::fabs(U) + 16 * U;
+    };
+    for (int I = 0; I < 60; ++I) { // courses of tiles that fall away on this side
+        const float X = -10 + 12.6f * float(I);
+        Stroke(
+            P.C, {{X, RidgeY(X) + 4}, {X - 14 * Hand, Height + 20}}, 5, 7,
+            Lit(P, Times(P.Snow ? Hex(0xe4ecf6) : Hex(0x4c545c), Any(P.C, 0.8f, 1.15f)), 0.3f, 0),
+            1);
     }
+    Line Ridge;
+    for (int I = 0; I <= 24; ++I)
+        Ridge.push_back({-10 + 31 * float(I), RidgeY(-10 + 31 * float(I))});
+    Stroke(P.C, Ridge, 6, 6, Lit(P, P.Snow ? Hex(0xf4f8ff) : Hex(0x6c747c), 0.6f, 0), 1);
+    const float CatX = 360 + Hand * Any(P.C, 120, 230), CatY = RidgeY(CatX) - 4;
+    const Rgb Fur = Lit(P, Hex(0x241c1c), 0.2f, 0);
+    Dab(P.C, CatX, CatY - 10, 26, 17, Pi / 2, Fur, 1);
+    Dab(P.C, CatX + 2 * Hand, CatY - 25, 13, 12, 0, Fur, 1);
+    for (const float Ear : {-4.0f, 4.0f})
+        Dab(P.C, CatX + 2 * Hand + Ear, CatY - 31, 7, 4, Pi / 2, Fur, 1, true);
+    Stroke(
+        P.C,
+        Curve(
+            {{CatX - 6 * Hand, CatY}, {CatX - 20 * Hand, CatY + 4}, {CatX - 26 * Hand, CatY + 18}},
+            5),
+        2.4f, 1.5f, Fur, 1);
     for (int I = 0; I < 6; ++I) {
         const float X = Any(P.C, 60, 660), Y = Any(P.C, H + 60, 300);
         for (int K = 0; K < 10; ++K)

@@ -366,8 +366,9 @@ void PaintAtoll(Scene& P)
     PaintSea(P, H, 0.4f, P.Seed % 2 ? Hex(0x38b0a8) : Hex(0x3c98b0));
     PaintGlitter(P, H + 2, Height, P.L->OrbSize > 0 ? 0.6f : 0.2f);
     const float X = Vary(P, 170, 500, 2), Y = Lerp(H, Height, Vary(P, 0.25f, 0.62f, 5)),
-                R = (Y - H) * Vary(P, 1.6f, 3.2f, 7); // half the length of the island
-    for (int I = 0; I < 160; ++I)                     // shallows glow around the sand
+                R = Clamp((Y - H) * Vary(P, 1.6f, 3.2f, 7), 120,
+                          340);   // half the length of the island
+    for (int I = 0; I < 160; ++I) // shallows glow around the sand
         Dab(P.C, X + AnyBell(P.C) * R * 1.7f, Y + R * (0.06f + 0.15f * AnyBell(P.C)),
             Any(P.C, 0.15f, 0.6f) * R, Any(P.C, 3, 8), 0, Lit(P, Hex(0xa8f0dc), 0.8f, 0.1f), 0.16f);
     const Mask Sand = Oval(X, Y, R, R * 0.14f, P.Seed);

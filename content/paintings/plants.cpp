@@ -139,7 +139,7 @@ static void Crowned(Scene& P, Tree Kind, float X, float Y, float Tall, float Far
 {
     const Rgb Bark = BarkOf(P, Kind);
     const bool Small = Tall < 50;
-    const bool Leafless = P.Snow && Kind != Tree::Willow;
+    const bool Leafless = P.Snow;
     std::vector<Tip> Tips;
     const float Wide = Kind == Tree::Cherry  ? 0.75f
                        : Kind == Tree::Maple ? 0.68f
@@ -166,7 +166,7 @@ static void Crowned(Scene& P, Tree Kind, float X, float Y, float Tall, float Far
     for (const Tip& T : Tips)
         LeafMass(P, T.X + AnyBell(P.C) * R * 0.4f, T.Y - R * 0.2f, R * Any(P.C, 0.8f, 1.3f),
                  R * Any(P.C, 0.55f, 0.85f), Touch, Count, F.Dark, F.Middle, F.Light, Far);
-    if (Kind == Tree::Willow || Kind == Tree::Cherry) return;
+    if (Kind == Tree::Cherry) return;
     for (int I = 0; I < int(Tips.size()) * 6; ++I) { // loose leaves at the edge
         const Tip& T = Tips[std::size_t(AnyOf(P.C, int(Tips.size())))];
         Dab(P.C, T.X + AnyBell(P.C) * R * 1.9f, T.Y + AnyBell(P.C) * R * 1.4f, Touch * 1.2f,
@@ -252,23 +252,47 @@ static void Fir(Scene& P, float X, float Y, float Tall, float Far, bool Slim)
     }
 }
 
-static void WillowStrands(Scene& P, float X, float Y, float Tall, float Far)
+// Boughs rise in arcs from the trunk, and from each hangs a curtain with gaps beside it.
+static void Willow(Scene& P, float X, float Y, float Tall, float Far)
 {
     const Foliage F = FoliageOf(P, Tree::Willow);
-    const float Wind = Any(P.C, -0.12f, 0.12f);
-    for (int I = 0; I < int(Tall * 1.5f); ++I) {
-        const float A = Any(P.C, 0.05f, 0.95f) * Pi, R = Tall * 0.40f * Any(P.C, 0.5f, 1.05f);
-        const float SX = X + std::cos(A) * R, SY = Y - Tall * 0.62f - std::sin(A) * R * 0.85f;
-        const float Long = std::min(Tall * Any(P.C, 0.28f, 0.68f), Y - SY - 3);
-        const float Out = std::cos(A) * Tall * 0.07f;
-        const float Shade = Clamp(0.5f + 0.4f * std::cos(A) * SunSide(P, X) + 0.4f * AnyBell(P.C));
-        Stroke(P.C,
-               Curve({{SX, SY},
-                      {SX + Out, SY + Long * 0.3f},
-                      {SX + Out * 1.2f + Wind * Long, SY + Long}},
-                     4),
-               Clamp(Tall / 130, 0.6f, 1.9f), 0.4f,
-               Lit(P, Mix(F.Dark, Shade > 0.5f ? F.Light : F.Middle, Shade), Shade, Far), 0.85f);
+    const Rgb Bark = BarkOf(P, Tree::Willow);
+    const float Wind = Any(P.C, -0.12f, 0.12f), Lean = AnyBell(P.C) * 0.06f * Tall;
+    const Point Fork{X + Lean, Y - Tall * 0.42f};
+    Limb(P, Curve({{X, Y}, {X - Lean * 0.5f, Y - Tall * 0.2f}, Fork}, 5),
+         std::max(0.8f, Tall * 0.042f), std::max(0.6f, Tall * 0.028f), Bark, Far);
+    const int Boughs = Tall < 60 ? 6 : 10;
+    for (int B = 0; B < Boughs; ++B) {
+        const float A = Pi * (0.06f + 0.88f * (float(B * 7 % Boughs) + Any(P.C)) / float(Boughs)),
+                    R = Tall * Any(P.C, 0.30f, 0.50f), Front = float(B) / float(Boughs);
+        const Line Bough = Curve(
+            {Fork,
+             {Fork.X + std::cos(A) * R * 0.55f, Fork.Y - Tall * (0.10f + 0.30f * std::sin(A))},
+             {Fork.X + std::cos(A) * R * 1.15f, Fork.Y - Tall * (0.02f + 0.30f * std::sin(A))}},
+            7);
+        Limb(P, Bough, std::max(0.6f, Tall * 0.016f), 0.5f, Bark, Far);
+        const int Strands = int(Clamp(Tall * 0.20f, 7, 34));
+        for (int I = 0; I < Strands; ++I) {
+            const float T = 0.25f + 0.75f * Any(P.C);
+            const Point From = Bough[std::size_t(T * float(Bough.size() - 1))];
+            const float Long = std::min(Tall * Any(P.C, 0.10f, 0.40f) * (0.6f + T),
+                                        (Y - From.Y) * Any(P.C, 0.8f, 0.98f));
+            const float Shade = Clamp(0.18f + 0.4f * Front + 0.35f * std::cos(A) * SunSide(P, X) +
+                                      0.25f * std::sin(A) + 0.3f * AnyBell(P.C));
+            const Rgb Paint =
+                Lit(P, Mix(F.Dark, Shade > 0.55f ? F.Light : F.Middle, Shade), Shade, Far);
+            const float SX = From.X + AnyBell(P.C) * Tall * 0.05f,
+                        Out = std::cos(A) * Tall * 0.03f + (Wind + 0.06f * AnyBell(P.C)) * Long;
+            Stroke(P.C,
+                   Curve({{SX, From.Y},
+                          {SX + Out * 0.5f, From.Y + Long * 0.4f},
+                          {SX + Out, From.Y + Long}},
+                         3),
+                   Clamp(Tall / 150, 0.5f, 1.5f), 0.4f, Paint, 0.8f);
+            for (float D = 0.1f; D < 1 && Tall > 60; D += 7 / std::max(Long, 8.0f))
+                Dab(P.C, SX + Out * D + AnyBell(P.C) * 1.6f, From.Y + Long * D, 6, 1.7f,
+                    Pi / 2 + AnyBell(P.C) * 0.5f, Times(Paint, Any(P.C, 0.85f, 1.2f)), 0.8f, true);
+        }
     }
 }
 
@@ -354,8 +378,7 @@ void PaintTree(Scene& P, Tree Kind, float X, float Y, float Tall, float Far)
         Bamboo(P, X, Y, Tall, Far);
         return;
     case Tree::Willow:
-        Crowned(P, Kind, X, Y, Tall * 0.8f, Far);
-        WillowStrands(P, X, Y, Tall, Far);
+        Willow(P, X, Y, Tall, Far);
         return;
     default:
         Crowned(P, Kind, X, Y, Tall, Far);

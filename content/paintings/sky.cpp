@@ -20,16 +20,24 @@ static float CloudAt(const Scene& P, float X, float Y, float Up)
     }
     if (Kind == "cumulus") {
         const float Warp = Fbm(U * 1.5f, Z * 2.5f, 2, Seed + 4) * 0.5f;
-        const float D = 0.66f * Fbm(U * 0.62f + Warp, Z * 1.5f + Warp, 3, Seed) +
-                        0.34f * Ridged(U * 2.1f, Y / 38, 3, Seed + 7);
-        return Smooth(0.505f, 0.60f, D) * Smooth(0.0f, 0.1f, Up);
+        const float D = 0.70f * Fbm(U * 0.55f + Warp, Z * 1.7f + Warp, 3, Seed) +
+                        0.30f * (1 - Ridged(U * 1.5f, Z * 5 + U, 3, Seed + 7));
+        return Smooth(0.52f, 0.60f, D) * Smooth(0.0f, 0.1f, Up);
     }
-    if (Kind == "heaped") { // one great tower
-        const float Middle = 360 + (float(P.Seed % 7) - 3) * 50, Wide = 90 + 190 * (1 - Up);
-        const float Body = 1 - std::fabs(X - Middle + 60 * (Noise(Up * 3, 1, Seed) - 0.5f)) / Wide;
-        const float Bulge = 0.6f * (1 - Ridged(X / 95, Y / 80, 3, Seed + 1)) +
-                            0.4f * Fbm(X / 50, Y / 42, 4, Seed + 2);
-        return Smooth(0.36f, 0.44f, Body * 0.7f + Bulge * 0.5f - Smooth(0.5f, 1.05f, Up) * 0.5f);
+    if (Kind == "heaped") { // one great tower of round heads on a flat base
+        const float Middle = 360 + (float(P.Seed % 7) - 3) * 50, High = Up * 270;
+        float Head = -1;
+        for (int K = 0; K < 26; ++K) {
+            const float T = float(K) / 25, FK = float(K) * 3.7f;
+            const float CX = Middle + (Noise(FK, 1, Seed) - 0.5f) * (390 - 270 * T),
+                        CY = 22 + 215 * T * (0.5f + 0.7f * Noise(FK, 5, Seed)),
+                        R = (62 - 26 * T) * (0.6f + 0.8f * Noise(FK, 9, Seed));
+            const float DX = (X - CX) / R, DY = (High - CY) / R;
+            Head = std::max(Head, 1 - std::sqrt(DX * DX + DY * DY));
+        }
+        Head += 0.5f * (Fbm(X / 26, Y / 22, 4, Seed + 2) - 0.5f);
+        return Smooth(0.0f, 0.10f, Head) * (0.72f + 0.28f * Smooth(0.0f, 0.5f, Head)) *
+               Smooth(0.03f, 0.09f, Up);
     }
     if (Kind == "stratus") {
         const float Bent = Fbm(X / 300, Up * 2, 2, Seed + 3) * 0.5f;
