@@ -12,7 +12,7 @@ static float CrestAtX(const std::vector<float>& Crest, float X)
 
 void PaintSummit(Scene& P)
 {
-    const float H = Vary(P, 300, 350);
+    const float H = Vary(P, 270, 350);
     PaintSky(P, H);
     HillLook Peak;
     Peak.Kind = Hill::Alpine, Peak.Foot = H + 10, Peak.Top = Any(P.C, 10, 40), Peak.Grain = 300,
@@ -27,7 +27,8 @@ void PaintSummit(Scene& P)
     Near.Foot = 440, Near.Top = 330, Near.Grain = 300, Near.Far = 0.1f, Near.Local = WoodColour(P),
     Near.Trees = 0.9f, Near.Snow = P.Snow ? 0.5f : 0, Near.Mist = 0.1f;
     const std::vector<float> Crest = PaintHill(P, Near);
-    PaintMotif(P, P.Plan.Motif, 200, CrestAtX(Crest, 200) + 10, 66, 0.25f);
+    const float Spot = Vary(P, 120, 600, 5);
+    PaintMotif(P, P.Plan.Motif, Spot, CrestAtX(Crest, Spot) + 10, Vary(P, 50, 100, 7), 0.25f);
     for (int I = 0; I < 14; ++I) {
         const float X = Any(P.C, 0, 720);
         PaintTree(P, P.Snow || I % 2 ? Tree::Fir : SeasonTree(P), X, CrestAtX(Crest, X) + 20,
@@ -136,7 +137,7 @@ void PaintSlope(Scene& P)
 
 void PaintTarn(Scene& P)
 {
-    const float H = Vary(P, 215, 250);
+    const float H = Vary(P, 180, 265);
     PaintSky(P, H);
     HillLook Wall;
     Wall.Kind = Hill::Alpine, Wall.Foot = H, Wall.Top = Any(P.C, 14, 50),
@@ -154,7 +155,11 @@ void PaintTarn(Scene& P)
         PaintTree(P, Tree::Fir, Scree.Centre + AnyBell(P.C) * 170, H + 4, Any(P.C, 26, 56), 0.5f);
     PaintMotif(P, P.Plan.Motif, Scree.Centre + (P.Seed % 2 ? -110.0f : 110.0f), H + 5, 58, 0.5f);
     PaintWater(P, nullptr, H + 4, 0.3f, 0.3f);
-    const Mask Bank = Below({{-20, 392}, {150, 356}, {330, 372}, {520, 352}, {740, 384}});
+    const Mask Bank = Below({{-20, Any(P.C, 340, 410)},
+                             {150, Any(P.C, 340, 400)},
+                             {330, Any(P.C, 356, 410)},
+                             {520, Any(P.C, 340, 400)},
+                             {740, Any(P.C, 330, 410)}});
     PaintMeadow(P, &Bank, 320, Times(GroundColour(P), 0.85f), GroundColour(P), 1);
     for (int I = 0; I < 12; ++I)
         Rock(P, Any(P.C, 0, 720), Any(P.C, 366, 420), Any(P.C, 10, 34), 0.03f);
@@ -167,13 +172,13 @@ void PaintTarn(Scene& P)
 
 void PaintButtes(Scene& P)
 {
-    const float H = Vary(P, 270, 320);
+    const float H = Vary(P, 230, 330);
     PaintSky(P, H);
     const Rgb Red = P.Seed % 2 ? Hex(0xd07850) : Hex(0xc4684c);
     const Rgb Sand = P.Snow ? Hex(0xe8e8ee) : Mix(Red, Hex(0xf0d0a0), 0.4f);
     Ranges(P, Hill::Mesa, 1, 50, H + 2, 0, 0);
     PaintMeadow(P, nullptr, H, Mix(Sand, Red, 0.5f), Sand, 0.6f);
-    const float Xs[] = {560, 390, 150};
+    const float Xs[] = {Vary(P, 430, 640, 2), Vary(P, 250, 480, 5), Vary(P, 60, 330, 7)};
     for (int I = 0; I < 3; ++I) {
         const float T = float(I) / 2, X = Xs[I] + Any(P.C, -50, 50), Foot = H + 8 + 40 * T,
                     Half = 30 + 52 * T * Any(P.C, 0.8f, 1.2f),
@@ -406,9 +411,9 @@ void PaintViaduct(Scene& P)
 
 void PaintSunDisc(Scene& P)
 {
-    const float H = Vary(P, 300, 340);
+    const float H = Vary(P, 280, 350);
     PaintSkyWithoutOrb(P, H);
-    const float X = Vary(P, 250, 420, 3), Y = Any(P.C, 170, 220), R = Any(P.C, 96, 132);
+    const float X = Vary(P, 190, 530, 2), Y = Vary(P, 130, 230, 5), R = Vary(P, 76, 150, 7);
     const Rgb Disc = P.Ink     ? Hex(P.L->Orb)
                      : P.Night ? Hex(0xf4ecd8)
                                : Mix(Hex(P.L->Orb), Hex(P.L->Horizon), 0.3f);
@@ -426,11 +431,11 @@ void PaintSunDisc(Scene& P)
     Ranges(P, Hill::Soft, 2, 60, H, P.Snow ? 0.5f : 0, 0.5f);
     PaintMist(P, H - 10, 20, 0.5f);
     HillLook Near;
-    Near.Foot = 440, Near.Top = 270, Near.Grain = 400, Near.Far = 0.05f,
+    Near.Foot = 440, Near.Top = Y + R * 0.75f, Near.Grain = 400, Near.Far = 0.05f,
     Near.Local = Times(WoodColour(P), 0.6f), Near.Trees = 0.8f, Near.Mist = 0, Near.Centre = X + 30,
     Near.Spread = 380;
     const std::vector<float> Crest = PaintHill(P, Near);
-    PaintMotif(P, P.Plan.Motif, X + Any(P.C, -30, 30), CrestAtX(Crest, X) + 12, 150, 0.05f);
+    PaintMotif(P, P.Plan.Motif, X + Any(P.C, -30, 30), CrestAtX(Crest, X) + 12, R * 1.25f, 0.05f);
     for (int I = 0; I < 16; ++I) {
         const float TX = I < 6 ? X + (I % 2 ? 1.0f : -1.0f) * Any(P.C, 90, 180) : Any(P.C, 0, 720);
         PaintTree(P, I % 3 ? SeasonTree(P) : Tree::Pine, TX, CrestAtX(Crest, TX) + Any(P.C, 8, 50),
@@ -446,7 +451,7 @@ void PaintPerch(Scene& P)
     PaintCloudSea(P, H, Height);
     Ranges(P, Hill::Karst, 1, 110, H + 6, 0, 0.4f);
     PaintMist(P, H, 34, 0.7f);
-    const float X = Vary(P, 240, 460, 3), Top = Any(P.C, 180, 215), Half = Any(P.C, 70, 100);
+    const float X = Vary(P, 180, 540, 2), Top = Vary(P, 160, 270, 5), Half = Vary(P, 60, 130, 7);
     QPainterPath Path(QPointF(X - Half * 1.3f, 440));
     for (int K = 0; K <= 16; ++K)
         Path.lineTo(X - Half * (1.25f - 0.4f * std::pow(float(K) / 16, 2)) +

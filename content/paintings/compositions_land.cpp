@@ -35,7 +35,7 @@ void PaintOneTree(Scene& P)
     Ranges(P, P.Seed % 3 ? Hill::Soft : Hill::Alpine, 2, Any(P.C, 50, 110), H + 4,
            P.Snow ? 0.8f : 0.2f, 0.4f);
     PaintMist(P, H, 14, 0.4f);
-    const float X = Any(P.C, 210, 330), Rise = Any(P.C, 10, 60);
+    const float X = Vary(P, 170, 400, 2), Rise = Any(P.C, 10, 60);
     const Mask Hillock = Below(
         {{-20, H + 50}, {X - 130, H + 20}, {X, H + 50 - Rise}, {X + 170, H + 30}, {740, H + 64}});
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
@@ -51,7 +51,7 @@ void PaintOneTree(Scene& P)
     const float Y = H + 62 - Rise;
     SoftDab(P.C, X - 60 * SunSide(P, X), Y + 14, 150, 18,
             Lit(P, Times(GroundColour(P), 0.4f), 0.1f, 0), 0.6f);
-    PaintTree(P, Kind, X, Y, Any(P.C, 230, 290), 0.08f);
+    PaintTree(P, Kind, X, Y, Vary(P, 180, 330, 7), 0.08f);
     if (!P.Snow) {
         Flowers(P, 0, 720, H + 50, Height, 1700,
                 P.Seed % 3 == 0   ? Hex(0xe04838)
@@ -125,9 +125,9 @@ void PaintHollow(Scene& P)
 
 void PaintForest(Scene& P)
 {
-    const float H = Vary(P, 206, 296);
+    const float H = Vary(P, 206, 296), X0 = Vary(P, 220, 500, 2);
     PaintSky(P, H);
-    P.SunX = Any(P.C, 250, 470), P.SunY = Any(P.C, 60, 130);
+    P.SunX = X0 + Any(P.C, -110, 110), P.SunY = Any(P.C, 60, 130);
     // deep green air between the trunks
     const Rgb Air = Mix(Hex(P.L->Haze), Lit(P, WoodColour(P), 0.6f, 0.3f), 0.5f);
     for (int Y = 0; Y < Height; ++Y)
@@ -147,20 +147,21 @@ void PaintForest(Scene& P)
                      3.4f + 3 * T, 60, Dark, Middle, Bright, Far + 0.15f);
         for (int I = 0; I < Count; ++I) {
             float X = Any(P.C, -10, 730);
-            if (Layer > 1 && std::fabs(X - 370) < 100 + 50 * T) X += X < 370 ? -170 : 170;
+            if (Layer > 1 && std::fabs(X - X0) < 100 + 50 * T) X += X < X0 ? -170 : 170;
             const float Half = 3 + 17 * T * T * Any(P.C, 0.6f, 1.2f),
                         Y = H + 4 + 130 * T * T + Any(P.C, 0, 10);
             Trunk(P, X, Y, -10, Half, false, Far);
             if (Layer > 1) Bush(P, X + Any(P.C, -30, 30), Y + 6, 14 + 20 * T, Far);
         }
-        if (Layer == 1) PaintMotif(P, P.Plan.Motif, Any(P.C, 320, 420), H + 22, 90, 0.5f);
+        if (Layer == 1) PaintMotif(P, P.Plan.Motif, X0 + Any(P.C, -50, 50), H + 22, 90, 0.5f);
         if (Layer < 3) PaintMist(P, H + 10 + 40 * T, 40, 0.30f);
     }
-    PathWay(P, {{375, H + 14}, {340, H + 50}, {400, H + 100}, {350, Height + 30}}, 6, 110,
-            P.Snow ? Hex(0xd4dce8) : Hex(0xc0a478));
+    PathWay(P, {{X0, H + 14}, {X0 - 35, H + 50}, {X0 + 30, H + 100}, {X0 - 20, Height + 30}}, 6,
+            110, P.Snow ? Hex(0xd4dce8) : Hex(0xc0a478));
     if (P.Seed % 3 == 0) {
-        const Mask Brook =
-            Along({{470, H + 16}, {540, H + 60}, {440, H + 110}, {560, Height + 30}}, 3, 50);
+        const Mask Brook = Along(
+            {{X0 + 95, H + 16}, {X0 + 170, H + 60}, {X0 + 70, H + 110}, {X0 + 190, Height + 30}}, 3,
+            50);
         PaintWater(P, &Brook, H + 14, 0.8f, 0.3f);
     }
     PaintLife(P, H + 70);
@@ -234,30 +235,31 @@ void PaintBirches(Scene& P)
 
 void PaintGrove(Scene& P)
 {
-    const float H = Vary(P, 246, 336);
+    const float H = Vary(P, 210, 340), X0 = Vary(P, 210, 510, 2), Stout = Vary(P, 0.8f, 1.9f, 5);
     PaintSky(P, H);
-    P.SunX = Any(P.C, 280, 460), P.SunY = 90;
+    P.SunX = X0 + Any(P.C, -120, 120), P.SunY = 90;
     const Rgb Air = Mix(Hex(P.L->Haze), Lit(P, Hex(0x88b058), 0.7f, 0.2f), 0.45f);
     for (int Y = 0; Y < Height; ++Y)
         for (int X = 0; X < Width; ++X)
             Blend(P.C, X, Y, Air, 0.55f + 0.35f * std::fabs(float(X) - P.SunX) / 400);
     PaintMeadow(P, nullptr, H, Times(GroundColour(P), 0.6f), Times(GroundColour(P), 0.85f), 0.9f);
-    PathWay(P, {{360, H + 4}, {330, H + 30}, {390, H + 70}, {340, Height + 30}}, 10, 130,
-            P.Snow ? Hex(0xe0e8f0) : Hex(0xccb488));
+    PathWay(P,
+            {{X0, H + 4}, {X0 - 30, H + 30}, {X0 + 40, H + 70}, {Lerp(X0, 360, 0.5f), Height + 30}},
+            10, 130, P.Snow ? Hex(0xe0e8f0) : Hex(0xccb488));
     for (int Layer = 0; Layer < 4; ++Layer) {
         const float T = float(Layer) / 3;
-        for (int I = 0; I < 24 - 5 * Layer; ++I) {
+        for (int I = 0; I < int((24 - 5 * Layer) / Stout) + 1; ++I) {
             float X = Any(P.C, -20, 740);
             const float Clear = 26 + 110 * T;
-            if (std::fabs(X - 360) < Clear) X += X < 360 ? -Clear * 1.4f : Clear * 1.4f;
-            PaintTree(P, Tree::Bamboo, X, H + 6 + 110 * T * T + Any(P.C, 0, 10), 300 + 330 * T,
-                      1.5f * (1 - T) * (1 - T) + 0.05f);
+            if (std::fabs(X - X0) < Clear) X += X < X0 ? -Clear * 1.4f : Clear * 1.4f;
+            PaintTree(P, Tree::Bamboo, X, H + 6 + 110 * T * T + Any(P.C, 0, 10),
+                      300 + 330 * T * Stout, 1.5f * (1 - T) * (1 - T) + 0.05f);
         }
-        if (Layer == 0) PaintMotif(P, P.Plan.Motif, 360, H + 14, 84, 0.5f);
+        if (Layer == 0) PaintMotif(P, P.Plan.Motif, X0, H + 14, 84, 0.5f);
         if (Layer < 2) PaintMist(P, H - 10, 60, 0.35f);
     }
-    Lantern(P, Any(P.C, 190, 230), H + 74, 92, 0.05f);
-    Lantern(P, Any(P.C, 450, 480), H + 26, 44, 0.4f);
+    Lantern(P, X0 - Any(P.C, 130, 180), H + 74, 92, 0.05f);
+    Lantern(P, X0 + Any(P.C, 90, 120), H + 26, 44, 0.4f);
     for (int I = 0; I < 7; ++I)
         Rock(P, I % 2 ? Any(P.C, 0, 200) : Any(P.C, 540, 720), Any(P.C, H + 50, Height),
              Any(P.C, 14, 34), 0.1f);
@@ -267,7 +269,7 @@ void PaintGrove(Scene& P)
 
 void PaintAvenue(Scene& P)
 {
-    const float H = Vary(P, 176, 266), X = Any(P.C, 300, 420);
+    const float H = Vary(P, 150, 270), X = Vary(P, 210, 510, 2);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, Any(P.C, 40, 80), H + 2, P.Snow ? 0.6f : 0, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
@@ -288,11 +290,11 @@ void PaintAvenue(Scene& P)
                       : P.Plan.Season == "autumn" ? (P.Seed % 2 ? Tree::Maple : Tree::Birch)
                       : P.Plan.Season == "winter" ? (P.Seed % 2 ? Tree::Bare : Tree::Fir)
                                                   : Kinds[P.Seed % 5];
-    for (int I = 0; I < 7; ++I) {
+    for (int I = 0; I < 8; ++I) {
         const float T = float(I) / 6, Depth = 0.07f + 0.93f * T * T;
         for (int Side = -1; Side <= 1; Side += 2) {
             const float TX = X + float(Side) * (24 + 330 * Depth), Y = H + 8 + 165 * Depth;
-            PaintTree(P, Kind, TX + AnyBell(P.C) * 6, Y, 50 + 330 * Depth, 0.9f * (1 - T));
+            PaintTree(P, Kind, TX + AnyBell(P.C) * 6, Y, 50 + 330 * Depth, 0.9f * Clamp(1 - T));
             if (P.Seed % 3 == 0 && I > 1 && I < 6)
                 Lantern(P, TX - float(Side) * (20 + 44 * Depth), Y + 4, 14 + 70 * Depth,
                         0.7f * (1 - T));
@@ -391,7 +393,7 @@ void PaintMoonGate(Scene& P)
            0.6f);
     PaintMist(P, H - 4, 18, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 0.9f);
-    const float X = Any(P.C, 310, 410), Y = Any(P.C, 205, 225), R = Any(P.C, 150, 180);
+    const float X = Vary(P, 220, 500, 2), Y = Vary(P, 195, 225, 5), R = Vary(P, 135, 182, 7);
     for (int I = 0; I < 8; ++I)
         PaintTree(P, SeasonTree(P), X + Any(P.C, -170, 170), H + Any(P.C, 6, 24), Any(P.C, 40, 84),
                   0.6f);
@@ -503,7 +505,7 @@ void PaintStreet(Scene& P)
 
 void PaintOasis(Scene& P)
 {
-    const float H = Vary(P, 143, 249);
+    const float H = Vary(P, 130, 250), X = Vary(P, 260, 460, 2);
     PaintSky(P, H);
     const Rgb Sand = P.Seed % 2 ? Hex(0xf0cc94) : Hex(0xe8b880);
     for (int I = 0; I < 3; ++I) {
@@ -523,7 +525,7 @@ void PaintOasis(Scene& P)
         Bush(P, Any(P.C, 40, 680), H + Any(P.C, 54, 62), Any(P.C, 8, 20), 0.3f);
     const Mask Pool = MaskOf([&] {
         QPainterPath E;
-        E.addEllipse(QPointF(360, H + 112), Any(P.C, 240, 330), Any(P.C, 44, 60));
+        E.addEllipse(QPointF(X, H + 112), Vary(P, 170, 340, 5), Any(P.C, 40, 60));
         return E;
     }());
     PaintWater(P, &Pool, H + 56, 0.3f, 0.3f);
@@ -541,8 +543,9 @@ void PaintSteppe(Scene& P)
     PaintSky(P, H);
     HillLook Wall;
     Wall.Kind = Hill::Alpine;
-    Wall.Foot = H, Wall.Top = H - Any(P.C, 70, 150), Wall.Grain = 170, Wall.Far = 1.4f,
-    Wall.Local = RockColour(P), Wall.Snow = P.Snow ? 1.2f : 0.6f, Wall.Mist = 0.7f;
+    Wall.Foot = H, Wall.Top = H - Vary(P, 70, 190, 7), Wall.Grain = Vary(P, 130, 300, 2),
+    Wall.Far = 1.1f, Wall.Local = RockColour(P), Wall.Snow = P.Snow ? 1.2f : 0.6f, Wall.Mist = 0.6f;
+    Wall.Centre = Vary(P, 80, 640, 5), Wall.Spread = 420;
     PaintHill(P, Wall);
     PaintMist(P, H - 6, 16, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), Mix(GroundColour(P), Hex(P.S->GrassDry), 0.6f), 1);

@@ -7,7 +7,7 @@
 
 void PaintPatchwork(Scene& P)
 {
-    const float H = Vary(P, 110, 170);
+    const float H = Vary(P, 90, 220);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 60, H + 4, P.Snow ? 0.6f : 0, 0.6f);
     static constexpr std::uint32_t Crops[] = {0xe8cc50, 0x7cac48, 0xa884c8,
@@ -38,7 +38,7 @@ void PaintPatchwork(Scene& P)
 
 void PaintClearing(Scene& P)
 {
-    const float H = Vary(P, 180, 230);
+    const float H = Vary(P, 160, 250), X0 = Vary(P, 240, 480, 2);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 1, 90, H, P.Snow ? 1.0f : 0.4f, 0);
     PaintMist(P, H - 10, 24, 0.5f);
@@ -48,22 +48,22 @@ void PaintClearing(Scene& P)
         for (int I = 0; I < 13; ++I) {
             const float Side = I % 2 ? 1.0f : -1.0f;
             PaintTree(P, (I + Row) % 4 ? Tree::Fir : SeasonTree(P),
-                      360 + Side * (Gap + Any(P.C, 0, 300)), H + 6 + 110 * T * T + Any(P.C, 0, 12),
+                      X0 + Side * (Gap + Any(P.C, 0, 300)), H + 6 + 110 * T * T + Any(P.C, 0, 12),
                       90 + 190 * T * Any(P.C, 0.8f, 1.2f), 0.8f * (1 - T));
         }
         if (Row == 0)
             PaintMotif(P, P.Plan.Motif == "none" ? "teahouse" : P.Plan.Motif,
-                       360 + Any(P.C, -40, 40), H + 40, 110, 0.3f);
+                       X0 + Any(P.C, -40, 40), H + 40, 110, 0.3f);
     }
     if (P.Seed % 2) {
         const Mask Pool = MaskOf([&] {
             QPainterPath E;
-            E.addEllipse(QPointF(370, H + 100), 150, 26);
+            E.addEllipse(QPointF(X0, H + 100), 150, 26);
             return E;
         }());
         PaintWater(P, &Pool, H + 74, 0.3f, 0.3f);
     } else {
-        PathWay(P, {{360, H + 44}, {400, H + 90}, {330, Height + 20}}, 5, 50,
+        PathWay(P, {{X0, H + 44}, {X0 + 40, H + 90}, {X0 - 30, Height + 20}}, 5, 50,
                 P.Snow ? Hex(0xd0dae8) : Hex(0xc8ac7c));
     }
     if (!P.Snow) Flowers(P, 100, 620, H + 50, Height, 1500, Hex(P.S->Blossom));
@@ -73,15 +73,16 @@ void PaintClearing(Scene& P)
 
 void PaintPoplars(Scene& P)
 {
-    const float H = Vary(P, 230, 275);
+    const float H = Vary(P, 200, 290), Swing = Vary(P, 40, 150, 2), Start = Vary(P, 200, 400, 5);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 1, 36, H, P.Snow ? 0.6f : 0, 0.4f);
     PaintMotif(P, P.Plan.Motif, Any(P.C, 90, 240), H + 4, 70, 0.8f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);
     const int Count = 9;
     for (int I = 0; I < Count; ++I) { // a row that comes towards us in a curve
-        const float T = float(I) / (Count - 1), X = 330 + 90 * std::sin(T * 3.6f) + 330 * T * T,
-                    Tall = 60 + 290 * T;
+        const float T = float(I) / (Count - 1),
+                    X = Start + Swing * std::sin(T * 3.6f) + (660 - Start) * T * T,
+                    Tall = 60 + Vary(P, 150, 300, 7) * T;
         const Tree Kind = P.Plan.Season == "autumn" ? Tree::Birch
                           : P.Snow && P.Seed % 2    ? Tree::Bare
                                                     : Tree::Cypress;
@@ -98,18 +99,21 @@ void PaintPoplars(Scene& P)
 
 void PaintCulms(Scene& P)
 {
-    const float H = Vary(P, 220, 300);
+    const float H = Vary(P, 180, 320), X0 = Vary(P, 300, 520, 2);
+    const int Left = 2 + P.Variant % 4; // culms on the left, the rest on the right
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Karst : Hill::Soft, 3, 130, H, P.Snow ? 0.6f : 0, 0.6f);
     PaintMist(P, H - 20, 40, 0.7f);
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 330, 450), H + 4, 84, 0.7f);
+    PaintMotif(P, P.Plan.Motif, X0, H + 4, Vary(P, 60, 130, 5), 0.6f);
     PaintWater(P, nullptr, H + 6, 0.35f, 0.2f);
-    Boat(P, "raft", Any(P.C, 330, 450), H + 60, 70, 0.15f);
+    Boat(P, P.Variant % 2 ? "raft" : "row", X0 + Any(P.C, -110, 60), H + Any(P.C, 36, 80),
+         Any(P.C, 50, 90), 0.15f);
     for (int I = 0; I < 7; ++I) {
-        const float X = I < 5 ? -10 + 42 * float(I) + Any(P.C, -12, 12) : 640 + 60 * float(I - 5);
-        PaintTree(P, Tree::Bamboo, X, Height + 40, 560 + Any(P.C, 0, 200), 0);
+        const float X =
+            (I < Left ? -10 + 46 * float(I) : 740 - 50 * float(I - Left)) + Any(P.C, -14, 14);
+        PaintTree(P, Tree::Bamboo, X, Height + 40, 460 + Any(P.C, 0, 380), 0);
     }
-    Overhang(P, Tree::Bamboo, 330);
+    Overhang(P, Tree::Bamboo, Vary(P, 180, 420, 7));
     for (int I = 0; I < 4; ++I)
         Bush(P, I % 2 ? Any(P.C, -10, 150) : Any(P.C, 600, 730), Height + 4, Any(P.C, 24, 44), 0);
     PaintLife(P, H + 50);
@@ -123,43 +127,40 @@ void PaintBlossomHill(Scene& P)
                       : P.Plan.Season == "autumn" ? Tree::Maple
                       : P.Snow                    ? Tree::Pine
                                                   : Tree::Round;
-    const float Top = Vary(P, 120, 170, 3), X = Any(P.C, 280, 440);
+    const float Top = Vary(P, 100, 210, 2), X = Vary(P, 170, 550, 5), Wide = Vary(P, 0.7f, 1.5f, 7);
     Ranges(P, Hill::Soft, 1, 130, H, P.Snow ? 0.6f : 0, 0.3f);
     PaintMist(P, H - 80, 50, 0.5f);
-    const Mask Hillock = Below({{-20, Top + 170},
-                                {X - 200, Top + 70},
+    const Mask Hillock = Below({{X - 520 * Wide, Top + 250},
+                                {X - 200 * Wide, Top + 70},
                                 {X, Top + 10},
-                                {X + 200, Top + 70},
-                                {740, Top + 170}});
+                                {X + 200 * Wide, Top + 70},
+                                {X + 520 * Wide, Top + 250}});
     PaintMeadow(P, &Hillock, Top - 30, GroundColour(P), GroundColour(P), 1);
     PaintMotif(P, P.Plan.Motif == "none" ? "pagoda" : P.Plan.Motif, X, Top + 30, 120, 0.35f);
     for (int Row = 0; Row < 6; ++Row) { // a whole hill of crowns
         const float T = float(Row) / 5, Y = Top + 40 + 250 * T;
         for (int I = 0; I < 9 - Row; ++I) {
             const float TX =
-                X + (float(I) / float(8 - Row) - 0.5f) * (300 + 560 * T) + Any(P.C, -30, 30);
+                X + (float(I) / float(8 - Row) - 0.5f) * (300 + 560 * T) * Wide + Any(P.C, -30, 30);
             if (Row > 1 && std::fabs(TX - X - 26 * std::sin(T * 7)) < 34 + 30 * T) continue;
             PaintTree(P, (I + Row) % 5 == 0 ? SeasonTree(P) : Kind, TX,
-                      Y + Any(P.C, -8, 8) + 0.0004f * (TX - X) * (TX - X), 56 + 90 * T,
-                      0.5f * (1 - T));
+                      Y + Any(P.C, -8, 8) + 0.0008f / (Wide * Wide) * (TX - X) * (TX - X),
+                      56 + 90 * T, 0.5f * (1 - T));
         }
     }
-    for (int I = 0; I < 16; ++I) { // the steps between them
-        const float T = float(I) / 15, Y = Top + 60 + (Height - Top - 50) * T,
-                    SX = X + 26 * std::sin(T * 5.4f), Half = 8 + 30 * T;
-        Stroke(P.C, {{SX - Half, Y}, {SX + Half, Y}}, 1.5f + 4 * T, 1.5f + 4 * T,
-               Lit(P, P.Snow ? Hex(0xe8eef4) : Times(Hex(0xc0b4a0), Any(P.C, 0.85f, 1.1f)), 0.7f,
-                   0.3f * (1 - T)),
-               0.95f);
-        Stroke(P.C, {{SX - Half, Y + 2 + 4 * T}, {SX + Half, Y + 2 + 4 * T}}, 0.6f + T, 0.6f + T,
-               Lit(P, Hex(0x605850), 0.2f, 0.3f * (1 - T)), 0.8f);
-    }
+    Line Middle; // the steps between them
+    for (int I = 0; I <= 8; ++I)
+        Middle.push_back({X + 26 * std::sin(float(I) / 8 * 5.4f),
+                          Top + 60 + (Height - Top - 30) * float(I) / 8});
+    StoneSteps(P, Middle, 7, 40, 26, Hex(0xc0b4a0));
     PaintLife(P, 396);
 }
 
 void PaintVeranda(Scene& P)
 {
-    const float H = Vary(P, 150, 210);
+    const float H = Vary(P, 130, 230);
+    const float View = Vary(P, 200, 540, 2),
+                Sill = Vary(P, 330, 388, 7); // where the garden opens, and the floor before it
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Soft : Hill::Alpine, 3, 90, H, P.Snow ? 0.8f : 0.2f, 0.6f);
     PaintMist(P, H - 4, 18, 0.5f);
@@ -167,16 +168,21 @@ void PaintVeranda(Scene& P)
     for (int I = 0; I < 12; ++I)
         PaintTree(P, SeasonTree(P), Any(P.C, 60, 660), H + Any(P.C, 8, 40), Any(P.C, 50, 120),
                   0.4f);
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 250, 470), H + 50, 104, 0.4f);
-    const Mask Pond = Below({{-10, H + 70}, {250, H + 58}, {470, H + 62}, {740, H + 72}});
+    PaintMotif(P, P.Plan.Motif, View, H + 50, Vary(P, 80, 150, 5), 0.4f);
+    const Mask Pond = Below({{-10, H + 110},
+                             {View - 190, H + 66},
+                             {View, H + 56},
+                             {View + 210, H + 70},
+                             {740, H + 100}});
     PaintWater(P, &Pond, H + 56, 0.35f, 0.3f);
     for (int I = 0; I < 12; ++I)
-        Rock(P, Any(P.C, 80, 640), H + Any(P.C, 60, 76), Any(P.C, 5, 16), 0.2f);
+        Rock(P, Any(P.C, 80, 640), H + Any(P.C, 66, 90), Any(P.C, 5, 16), 0.2f);
+    PaintTree(P, SeasonTree(P), View > 360 ? Any(P.C, 90, 170) : Any(P.C, 560, 640), Sill + 10,
+              Vary(P, 90, 250, 4), 0.1f);
     PaintLife(P, H + 90);
     // the dark room before it all: floor, posts, eave
     const Rgb Wood = Hex(0x6c4c34);
     const Rgb Bright = Mix(Lit(P, Hex(0xb08858), 0.6f, 0), Sky(P, 0.1f), 0.25f);
-    const float Sill = 352;
     for (int I = 0; I < 24; ++I) {
         const float Y = Sill + float(I) * 3.2f;
         Stroke(P.C, {{-10, Y}, {360, Y + AnyBell(P.C)}, {730, Y}}, 2.4f, 2.4f,
@@ -184,7 +190,7 @@ void PaintVeranda(Scene& P)
         if (I % 5 == 0)
             Stroke(P.C, {{-10, Y}, {730, Y}}, 0.6f, 0.6f, Lit(P, Times(Wood, 0.3f), 0.1f, 0), 0.8f);
     }
-    const float Posts[] = {26, P.Seed % 2 ? 214.0f : 520.0f, 694};
+    const float Posts[] = {26, View > 360 ? Any(P.C, 130, 240) : Any(P.C, 480, 590), 694};
     for (const float X : Posts) {
         for (int I = 0; I < 60; ++I)
             Stroke(P.C, {{X + Any(P.C, -13, 13), -10}, {X + Any(P.C, -13, 13), Sill + 10}}, 2.5f,
@@ -286,7 +292,7 @@ void PaintGreatBridge(Scene& P)
     PaintMist(P, H - 6, 16, 0.5f);
     Village(P, -10, 300, H + 8, 28, 9, 0.6f);
     Village(P, 480, 740, H + 8, 28, 8, 0.6f);
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 330, 450), H + 6, 110, 0.6f);
+    PaintMotif(P, P.Plan.Motif, Vary(P, 150, 570, 5), H + 6, 110, 0.6f);
     for (int I = 0; I < 9; ++I)
         PaintTree(P, SeasonTree(P), Any(P.C, 0, 720), H + 10, Any(P.C, 40, 80), 0.45f);
     Bridge(P, Vary(P, 20, 90, 3), Any(P.C, 620, 690), H + 60, Any(P.C, 64, 110), 0.1f,
@@ -306,12 +312,12 @@ void PaintGreatBridge(Scene& P)
 
 void PaintCamp(Scene& P)
 {
-    const float H = Vary(P, 270, 310);
+    const float H = Vary(P, 225, 315);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, 120, H, P.Snow ? 1.2f : 0.4f, 0.2f);
     PaintMist(P, H - 6, 14, 0.4f);
     PaintMeadow(P, nullptr, H, Times(GroundColour(P), 0.8f), GroundColour(P), 1);
-    const float X = Any(P.C, 330, 430), Y = H + 56;
+    const float X = Vary(P, 250, 520, 2), Y = H + Vary(P, 40, 84, 5);
     PaintMotif(P, "yurts", X - 190, H + 44, 130, 0.1f);
     PaintMotif(P, P.Plan.Motif, 620, H + 16, 60, 0.6f);
     for (int I = 0; I < 8; ++I)
@@ -398,7 +404,7 @@ void PaintRooftops(Scene& P)
 
 void PaintGateFrame(Scene& P)
 {
-    const float H = Vary(P, 190, 250), X = Any(P.C, 330, 390);
+    const float H = Vary(P, 180, 280), X = Vary(P, 230, 490, 2);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Karst, 2, 130, H, P.Snow ? 0.9f : 0.2f, 0.5f);
     PaintMist(P, H - 6, 24, 0.6f);
@@ -416,7 +422,7 @@ void PaintGateFrame(Scene& P)
         PathWay(P, {{X, H + 22}, {X + 20, H + 60}, {X, Height + 20}}, 6, 110,
                 P.Snow ? Hex(0xdce4ee) : Hex(0xccb48c));
     }
-    PaintMotif(P, "torii", X, Height + 24, 490,
+    PaintMotif(P, "torii", X, Height + 24, Vary(P, 380, 560, 5),
                0.02f); // the gate stands so near that it frames the view
     for (int I = 0; I < 4; ++I)
         Bush(P, I % 2 ? Any(P.C, -10, 90) : Any(P.C, 640, 730), Height + 2, Any(P.C, 24, 50), 0);
@@ -442,7 +448,7 @@ void PaintFrostField(Scene& P)
         Stroke(P.C, Curve({{X - L, Y}, {X, Y - 3 - 6 * T}, {X + L, Y + 2}}, 5),
                1 + 5 * T * Any(P.C), 0.5f, Lit(P, Hex(0xb0c4e4), 0.3f, 0.5f * (1 - T)), 0.45f);
     }
-    const float X = Any(P.C, 170, 290);
+    const float X = Vary(P, 130, 420, 2);
     PaintMotif(P, P.Plan.Motif == "none" ? "teahouse" : P.Plan.Motif, X, H + 50, 100, 0.2f);
     for (int I = 0; I < 3; ++I)
         PaintTree(P, I ? Tree::Fir : Tree::Bare, X + Any(P.C, -120, 120), H + 52, Any(P.C, 70, 130),
@@ -456,7 +462,8 @@ void PaintFrostField(Scene& P)
         Dab(P.C, X + 20 + 130 * T + 9 * float(I % 2) * T, H + 60 + 150 * T, 3 + 9 * T, 1.2f + 4 * T,
             0.3f, Lit(P, Hex(0x98acd0), 0.2f, 0.1f), 0.6f);
     }
-    PaintTree(P, Tree::Bare, P.Seed % 3 ? 620 : 560, 400, Any(P.C, 190, 300), 0);
+    PaintTree(P, P.Variant % 3 == 1 ? Tree::Pine : Tree::Bare, Vary(P, 520, 660, 5), 400,
+              Vary(P, 120, 320, 7), 0);
     Grasses(P, 0, 720, Height + 2, 26, 50, Hex(0xb0a080), 0);
     PaintLife(P, H + 110);
 }

@@ -69,13 +69,13 @@ void PaintLakeView(Scene& P)
 
 void PaintMirror(Scene& P)
 {
-    const float H = Vary(P, 190, 230);
+    const float H = Vary(P, 170, 250);
     PaintSky(P, H);
     HillLook Peak;
     Peak.Kind = P.Seed % 3 == 2 ? Hill::Karst : Hill::Alpine;
     Peak.Foot = H, Peak.Top = Any(P.C, 20, 60), Peak.Grain = Peak.Kind == Hill::Karst ? 90 : 190,
     Peak.Far = 0.9f, Peak.Local = RockColour(P);
-    Peak.Snow = P.Snow ? 1.2f : 0.45f, Peak.Mist = 0.5f, Peak.Centre = Any(P.C, 300, 420),
+    Peak.Snow = P.Snow ? 1.2f : 0.45f, Peak.Mist = 0.5f, Peak.Centre = Vary(P, 180, 540, 2),
     Peak.Spread = 250;
     PaintHill(P, Peak);
     for (int Side = -1; Side <= 1; Side += 2) {
@@ -90,7 +90,7 @@ void PaintMirror(Scene& P)
         PaintTree(P, I % 3 ? Tree::Fir : SeasonTree(P),
                   Any(P.C) < 0.5f ? Any(P.C, -10, 210) : Any(P.C, 510, 730), H + 6,
                   Any(P.C, 26, 66), 0.35f);
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 330, 390), H + 6, 50, 0.6f);
+    PaintMotif(P, P.Plan.Motif, Vary(P, 150, 570, 5), H + 6, Vary(P, 44, 80, 7), 0.6f);
     PaintMist(P, H, 12, 0.5f);
     PaintWater(P, nullptr, H + 5, 0.22f, 0.22f);
     if (P.L->OrbSize > 0) PaintGlitter(P, H + 10, Height, 0.4f);
@@ -162,7 +162,7 @@ void PaintStacks(Scene& P)
 
 void PaintBay(Scene& P)
 {
-    const float H = Vary(P, 66, 104);
+    const float H = Vary(P, 66, 150), Shift = Vary(P, -120, 130, 2);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 44, H + 2, 0, 0.5f);
     PaintSea(P, H, 0.3f, P.Seed % 2 ? Hex(0x2c9098) : Hex(0x2c6c94));
@@ -178,8 +178,9 @@ void PaintBay(Scene& P)
             if (float(Y) > Cape.Foot - 0.00045f * float((Width - X) * (Width - X)) || X < 420)
                 P.C.Px[std::size_t(Y * Width + X)] = Before[std::size_t(Y * Width + X)];
     // the beach swings from far right to near left
-    const Line Shore{{740, H + 52},  {600, H + 66},  {450, H + 108},
-                     {350, H + 170}, {330, H + 240}, {400, Height + 20}};
+    const Line Shore{
+        {740, H + 52},          {600 + Shift * 0.5f, H + 66},  {450 + Shift, H + 108},
+        {350 + Shift, H + 170}, {330 + Shift * 0.8f, H + 240}, {400 + Shift * 0.3f, Height + 20}};
     QPainterPath Land(QPointF(760, H + 50));
     const Line Bow = Curve(Shore, 12);
     for (const Point& K : Bow) Land.lineTo(K.X, K.Y);
@@ -192,7 +193,12 @@ void PaintBay(Scene& P)
         Stroke(P.C, Sand, 2, 17,
                Lit(P, Times(Hex(0xecd8ac), 1.04f - 0.05f * float(I)), 0.75f, 0.15f), 0.7f);
     }
-    PaintSurf(P, {{600, H + 66}, {450, H + 108}, {350, H + 170}, {330, H + 240}}, 12);
+    PaintSurf(P,
+              {{600 + Shift * 0.5f, H + 66},
+               {450 + Shift, H + 108},
+               {350 + Shift, H + 170},
+               {330 + Shift * 0.8f, H + 240}},
+              12);
     Village(P, 500, 720, H + 92, 20, 9, 0.5f);
     PaintMotif(P, P.Plan.Motif, Any(P.C, 560, 650), H + 128, 90, 0.3f);
     Village(P, 470, 730, H + 150, 32, 8, 0.25f);
@@ -209,7 +215,7 @@ void PaintBay(Scene& P)
 
 void PaintQuay(Scene& P)
 {
-    const float H = Vary(P, 250, 290);
+    const float H = Vary(P, 215, 300), Near = Vary(P, 170, 420, 2);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 60, H, P.Snow ? 0.6f : 0, 0.5f);
     Village(P, 330, 740, H + 4, 24, 12, 0.8f);
@@ -218,8 +224,8 @@ void PaintQuay(Scene& P)
     if (P.L->OrbSize > 0) PaintGlitter(P, H + 8, Height, 0.6f);
     Boat(P, "sail", 500, H + 34, 60, 0.4f);
     Boat(P, "row", Any(P.C, 560, 640), H + 74, 66, 0.1f);
-    Boat(P, "junk", Any(P.C, 340, 400), H + 50, 150, 0.25f);
-    Boat(P, "junk", Any(P.C, 150, 210), H + 96, Any(P.C, 270, 320), 0);
+    Boat(P, "junk", Near + Any(P.C, 170, 230), H + 50, Vary(P, 90, 170, 5), 0.25f);
+    Boat(P, P.Variant % 3 == 2 ? "sail" : "junk", Near, H + 96, Vary(P, 200, 330, 7), 0);
     const Rgb Wood = Hex(0x70543c);
     for (int I = 0; I < 16; ++I) { // a jetty in front
         const float X = -30 + 34 * float(I);
@@ -319,7 +325,7 @@ void PaintCascade(Scene& P)
 
 void PaintHorseshoe(Scene& P)
 {
-    const float H = Vary(P, 120, 170);
+    const float H = Vary(P, 90, 180), Middle = Vary(P, 230, 490, 2), Bow = Vary(P, 20, 90, 5);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 60, H, P.Snow ? 0.6f : 0, 0.8f);
     PaintMeadow(P, nullptr, H, GroundColour(P), WoodColour(P), 1);
@@ -333,8 +339,8 @@ void PaintHorseshoe(Scene& P)
     Wall.Kind = Hill::Cliff, Wall.Top = H + 22, Wall.Foot = 330, Wall.Grain = 260, Wall.Far = 0.5f,
     Wall.Local = Times(RockColour(P), 0.8f), Wall.Mist = 0.4f;
     // the rim bends towards us at both ends, and water falls all along it
-    for (int I = 0; I < 15; ++I) {
-        const float U = float(I) / 14 * 2 - 1, X = 360 + U * 330, Lip = H + 42 + 60 * U * U,
+    for (int I = 0; I < 25; ++I) {
+        const float U = float(I) / 12 - 1, X = Middle + U * 560, Lip = H + 42 + Bow * U * U,
                     Foot = 300 + 46 * U * U, Near = U * U;
         for (int K = 0; K < 40; ++K)
             Stroke(P.C,
@@ -343,11 +349,11 @@ void PaintHorseshoe(Scene& P)
                    Lit(P, Times(RockColour(P), Any(P.C, 0.5f, 0.9f)), 0.3f, 0.5f - 0.3f * Near),
                    0.6f);
     }
-    for (int I = 0; I < 64; ++I) { // curtains and threads, with dark rock between
-        const float U = float(I) / 63 * 2 - 1 + 0.01f * AnyBell(P.C);
+    for (int I = 0; I < 100; ++I) { // curtains and threads, with dark rock between
+        const float U = float(I) / 49.5f - 1 + 0.01f * AnyBell(P.C);
         const float Water = Noise(U * 4.5f + 9, 4, P.Seed);
         if (Water < 0.40f) continue;
-        PaintFall(P, 360 + U * 345, H + 40 + 60 * U * U + 8 * Noise(U * 13, 1, P.Seed),
+        PaintFall(P, Middle + U * 570, H + 40 + Bow * U * U + 8 * Noise(U * 13, 1, P.Seed),
                   300 + 46 * U * U, (4 + 26 * (Water - 0.40f)) * (1 + 0.9f * U * U),
                   0.5f - 0.35f * U * U);
     }
@@ -394,7 +400,7 @@ void PaintAtoll(Scene& P)
 
 void PaintJetty(Scene& P)
 {
-    const float H = Vary(P, 160, 230), X = Any(P.C, 330, 450);
+    const float H = Vary(P, 160, 230), X = Vary(P, 230, 520, 2), Foot = Vary(P, 180, 520, 5);
     PaintSky(P, H);
     Ranges(P, P.Seed % 2 ? Hill::Alpine : Hill::Soft, 3, Any(P.C, 60, 110), H, P.Snow ? 0.9f : 0.2f,
            0.7f);
@@ -406,7 +412,7 @@ void PaintJetty(Scene& P)
     const Rgb Wood = P.Snow ? Hex(0xdce4ee) : Hex(0x94785c);
     for (int I = 0; I < 46; ++I) { // planks from far to near
         const float T = std::pow(float(I) / 45, 1.7f), Y = Lerp(End, Height + 6, T),
-                    Half = Lerp(16, 150, T), Mid = X + (300 - X) * T;
+                    Half = Lerp(16, 150, T), Mid = Lerp(X, Foot, T);
         if (I % 7 == 0)
             for (int Side = -1; Side <= 1; Side += 2) {
                 Stroke(P.C,
@@ -431,12 +437,13 @@ void PaintJetty(Scene& P)
 
 void PaintRiverTown(Scene& P)
 {
-    const float H = Vary(P, 76, 120);
+    const float H = Vary(P, 76, 160), Turn = Vary(P, -1, 1.4f, 2); // how the river winds
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 60, H + 4, P.Snow ? 0.6f : 0, 0.6f);
     PaintMeadow(P, nullptr, H, Times(GroundColour(P), 0.8f), WoodColour(P), 1);
-    const Line Middle{{470, H + 12},  {560, H + 40},  {330, H + 88},
-                      {220, H + 150}, {420, H + 240}, {470, Height + 60}};
+    const Line Middle{{400 + 70 * Turn, H + 12},  {390 + 170 * Turn, H + 40},
+                      {370 - 40 * Turn, H + 88},  {370 - 150 * Turn, H + 150},
+                      {390 + 30 * Turn, H + 240}, {400 + 70 * Turn, Height + 60}};
     for (int Row = 0; Row < 6; ++Row) {
         const float T = float(Row) / 5, Y = H + 24 + 150 * T;
         Village(P, -10, 180 - 20 * T, Y + 20, 16 + 26 * T, 5, 0.8f - 0.6f * T);
@@ -456,7 +463,7 @@ void PaintRiverTown(Scene& P)
             Dab(P.C, X, Y + S * 1.4f, S * 0.9f, S * 0.6f, 0, Hex(0xffb860), 0.5f, true);
         }
     }
-    Bridge(P, 190, 420, H + 120, 34, 0.3f, true);
+    Bridge(P, 255 - 65 * Turn, 485 - 65 * Turn, H + 120, 34, 0.3f, P.Seed % 2);
     Boat(P, "row", 380, Height - 66, 90, 0);
     for (int I = 0; I < 6; ++I)
         PaintTree(P, SeasonTree(P), I % 2 ? Any(P.C, -10, 120) : Any(P.C, 620, 730),
@@ -542,7 +549,7 @@ void PaintFloes(Scene& P)
 
 void PaintHighView(Scene& P)
 {
-    const float H = Vary(P, 90, 130);
+    const float H = Vary(P, 70, 165), Rise = Vary(P, -40, 50, 2);
     PaintSky(P, H);
     Ranges(P, Hill::Alpine, 2, 90, H + 4, P.Snow ? 1.0f : 0.4f, 0);
     PaintWater(P, nullptr, H + 20, 0.3f, 0.3f);
@@ -567,10 +574,14 @@ void PaintHighView(Scene& P)
     for (int I = 0; I < 3; ++I)
         Boat(P, I ? "sail" : "junk", Any(P.C, 280, 440), H + 60 + 56 * float(I), 16 + 12 * float(I),
              0.6f - 0.2f * float(I));
-    const Mask Ledge = Below({{-20, 292}, {110, 306}, {210, 350}, {290, 400}, {330, 440}});
+    const Mask Ledge = Below({{-20, 292 - Rise},
+                              {110, 306 - Rise * 0.8f},
+                              {210 + Rise, 350},
+                              {290 + Rise, 400},
+                              {330 + Rise, 440}});
     PaintMeadow(P, &Ledge, 250, Times(GroundColour(P), 0.7f), GroundColour(P), 1);
     for (int I = 0; I < 5; ++I) Rock(P, Any(P.C, 40, 290), Any(P.C, 350, 420), Any(P.C, 14, 34), 0);
-    PaintMotif(P, P.Plan.Motif, 110, 322, 120, 0.05f);
+    PaintMotif(P, P.Plan.Motif, 110, 322 - Rise * 0.8f, Vary(P, 90, 150, 5), 0.05f);
     for (int I = 0; I < 3; ++I)
         PaintTree(P,
                   P.Snow ? Tree::Fir
@@ -582,7 +593,7 @@ void PaintHighView(Scene& P)
 
 void PaintStoneGarden(Scene& P)
 {
-    const float H = Vary(P, 110, 150);
+    const float H = Vary(P, 90, 190);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 2, 70, H + 4, P.Snow ? 0.6f : 0, 0.6f);
     PaintMotif(P, P.Plan.Motif, Any(P.C, 460, 600), H + 26, 130, 0.6f);
@@ -631,18 +642,18 @@ void PaintStoneGarden(Scene& P)
         Rock(P, S.X, S.Y, S.S, 0.1f);
         Rock(P, S.X + S.S * 0.8f, S.Y + 3, S.S * 0.5f, 0.1f);
     }
-    Lantern(P, Any(P.C, 60, 110), Wall + 30, 84, 0.15f);
+    Lantern(P, Vary(P, 60, 280, 5), Wall + 30, Vary(P, 60, 120, 7), 0.15f);
     PaintTree(P,
               P.Plan.Season == "autumn"   ? Tree::Maple
               : P.Plan.Season == "spring" ? Tree::Cherry
                                           : Tree::Pine,
-              P.Seed % 2 ? 640 : 560, Wall + 16, Any(P.C, 140, 190), 0.1f);
+              Vary(P, 330, 660, 2), Wall + 16, Any(P.C, 140, 190), 0.1f);
     PaintLife(P, Wall + 70);
 }
 
 void PaintLotus(Scene& P)
 {
-    const float H = Vary(P, 70, 110);
+    const float H = Vary(P, 64, 170);
     PaintSky(P, H);
     Ranges(P, Hill::Soft, 1, 60, H + 4, 0, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 1);

@@ -144,7 +144,7 @@ void PaintHarbour(Scene& P)
            0.6f);
     PaintMist(P, H - 8, 14, 0.4f);
     Village(P, -20, 440, H + 6, 30, 16, 0.6f);
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 120, 300), H + 4, 100, 0.6f);
+    PaintMotif(P, P.Plan.Motif, Vary(P, 80, 460, 2), H + 4, Vary(P, 80, 140, 5), 0.6f);
     Village(P, -20, 520, H + 16, 34, 14, 0.35f);
     Draw(P.C, [&](QPainter& Q) {
         Q.fillRect(QRectF(-5, H + 14, 560, 9), ToQColor(Lit(P, Hex(0x8c8478), 0.3f, 0.4f)));
@@ -280,8 +280,8 @@ void PaintStillness(Scene& P)
     PaintSky(P, H);
     if (P.Seed % 3) Ranges(P, Hill::Soft, 2, Any(P.C, 30, 80), H + 2, P.Snow ? 0.6f : 0, 0);
     PaintMist(P, H, 20, 0.7f);
-    const float X = Any(P.C, 200, 300), Y = H + Any(P.C, 26, 54);
-    PaintMotif(P, P.Plan.Motif, X, Y, Any(P.C, 110, 160), 0.12f);
+    const float X = Vary(P, 150, 430, 2), Y = H + Any(P.C, 26, 54);
+    PaintMotif(P, P.Plan.Motif, X, Y, Vary(P, 80, 190, 5), 0.12f);
     // all above the foot of the motif mirrors there; the far water is filled in first
     PaintWater(P, nullptr, Y - 1, 0.42f, 0.22f);
     if (P.L->OrbSize > 0) PaintGlitter(P, Y, Height, 0.5f);
