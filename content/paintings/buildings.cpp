@@ -516,7 +516,8 @@ void Village(Scene& P, float X0, float X1, float Y, float Tall, int Count, float
 {
     const int First = int(P.Seed % 12);
     for (int I = 0; I < Count; ++I) {
-        const float T = (float(I * 5 % Count) + Any(P.C, 0.1f, 0.9f)) / float(Count);
+        // the golden section spreads any number of houses
+        const float T = std::fmod(float(I) * 0.618f + Any(P.C, 0.1f, 0.9f) / float(Count), 1.0f);
         const float Size = Tall * Any(P.C, 0.75f, 1.25f), Row = float(I) / float(Count);
         const float X = Lerp(X0, X1, T), GroundY = Y + (Row - 0.6f) * Tall * 0.8f;
         if (Any(P.C) < 0.45f) Bush(P, X + Any(P.C, -1, 1) * Size, GroundY, Size * 0.5f, Far);

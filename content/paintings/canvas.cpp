@@ -5,56 +5,15 @@
 #include <algorithm>
 #include <cmath>
 
-Rgb Mix(Rgb A, Rgb B, float Share)
-{
-    return {A.R + (B.R - A.R) * Share, A.G + (B.G - A.G) * Share, A.B + (B.B - A.B) * Share};
-}
-
-Rgb Times(Rgb A, Rgb B)
-{
-    return {A.R * B.R, A.G * B.G, A.B * B.B};
-}
-
-Rgb Times(Rgb A, float Factor)
-{
-    return {A.R * Factor, A.G * Factor, A.B * Factor};
-}
-
-Rgb Plus(Rgb A, Rgb B)
-{
-    return {A.R + B.R, A.G + B.G, A.B + B.B};
-}
-
-float Brightness(Rgb Colour)
-{
-    return 0.3f * Colour.R + 0.59f * Colour.G + 0.11f * Colour.B;
-}
-
 Rgb Saturate(Rgb Colour, float Factor)
 {
     const float Grey = Brightness(Colour);
     return Mix({Grey, Grey, Grey}, Colour, Factor);
 }
 
-float Clamp(float Value, float Low, float High)
-{
-    return std::min(std::max(Value, Low), High);
-}
-
 QColor ToQColor(Rgb Colour, float Alpha)
 {
     return QColor::fromRgbF(Clamp(Colour.R), Clamp(Colour.G), Clamp(Colour.B), Clamp(Alpha));
-}
-
-float Smooth(float From, float To, float Value)
-{
-    const float T = Clamp((Value - From) / (To - From));
-    return T * T * (3 - 2 * T);
-}
-
-float Lerp(float A, float B, float Share)
-{
-    return A + (B - A) * Share;
 }
 
 static std::uint64_t Scramble(std::uint64_t Value) // splitmix64
@@ -91,9 +50,9 @@ static float Corner(int X, int Y, std::uint32_t Seed)
 
 float Noise(float X, float Y, std::uint32_t Seed)
 {
-    const float FloorX = std::floor(X), FloorY = std::floor(Y);
-    const int IX = int(FloorX), IY = int(FloorY);
-    float U = X - FloorX, V = Y - FloorY;
+    // std::floor is a call of the library, and this is the innermost loop of nearly every brush
+    const int IX = int(X) - (X < float(int(X))), IY = int(Y) - (Y < float(int(Y)));
+    float U = X - float(IX), V = Y - float(IY);
     U = U * U * (3 - 2 * U);
     V = V * V * (3 - 2 * V);
     const float Top = Lerp(Corner(IX, IY, Seed), Corner(IX + 1, IY, Seed), U);
@@ -218,32 +177,44 @@ static std::vector<WetPixel> Wet(Width* Height);
 void Stroke(Canvas& C, const Line& Way, float From, float To, Rgb Colour, float Alpha)
 {
     if (Way.size() < 2) return;
-    const float Widest = std::max(From, To) + 1;
+    const float Reach = std::max({From, To, 0.3f}) + 0.5f; // beyond it nothing is covered
+    const bool Bristled = std::max(From, To) > 2;
     int X0 = Width, X1 = -1, Y0 = Height, Y1 = -1;
     float Run = 0;
     for (std::size_t I = 0; I + 1 < Way.size(); ++I) {
         const Point A = Way[I], B = Way[I + 1];
         const float DX = B.X - A.X, DY = B.Y - A.Y, Length2 = DX * DX + DY * DY;
         if (Length2 < 1e-6f) continue;
-        const float Length = std::sqrt(Length2);
-        const int SX0 = std::max(0, int(std::min(A.X, B.X) - Widest)),
-                  SX1 = std::min(Width - 1, int(std::max(A.X, B.X) + Widest)),
-                  SY0 = std::max(0, int(std::min(A.Y, B.Y) - Widest)),
-                  SY1 = std::min(Height - 1, int(std::max(A.Y, B.Y) + Widest));
+        const float Length = std::sqrt(Length2), Wide = Reach * Length;
+        const int SX0 = std::max(0, int(std::min(A.X, B.X) - Reach)),
+                  SX1 = std::min(Width - 1, int(std::max(A.X, B.X) + Reach)),
+                  SY0 = std::max(0, int(std::min(A.Y, B.Y) - Reach)),
+                  SY1 = std::min(Height - 1, int(std::max(A.Y, B.Y) + Reach));
         X0 = std::min(X0, SX0), X1 = std::max(X1, SX1);
         Y0 = std::min(Y0, SY0), Y1 = std::max(Y1, SY1);
         for (int Y = SY0; Y <= SY1; ++Y) {
-            for (int X = SX0; X <= SX1; ++X) {
-                const float PX = float(X) + 0.5f - A.X, PY = float(Y) + 0.5f - A.Y;
+            const float PY = float(Y) + 0.5f - A.Y;
+            float Left = float(SX0) - A.X, Right = float(SX1) - A.X;
+            const auto Narrow = [&](float Over, float From0, float To0) { // From0 < PX * Over < To0
+                if (std::fabs(Over) < 0.01f) return;
+                Left = std::max(Left, std::min(From0 / Over, To0 / Over) - 1);
+                Right = std::min(Right, std::max(From0 / Over, To0 / Over) + 1);
+            };
+            Narrow(DY, PY * DX - Wide, PY * DX + Wide);
+            Narrow(DX, -Wide - PY * DY, Length2 + Wide - PY * DY);
+            for (int X = std::max(SX0, int(Left + A.X)); X <= std::min(SX1, int(Right + A.X));
+                 ++X) {
+                const float PX = float(X) + 0.5f - A.X;
                 const float T = Clamp((PX * DX + PY * DY) / Length2);
                 const float EX = PX - DX * T, EY = PY - DY * T, Far2 = EX * EX + EY * EY;
-                if (Far2 > Widest * Widest) continue;
+                if (Far2 >= Reach * Reach) continue;
                 const float Share = (float(I) + T) / float(Way.size() - 1);
                 const float Half = std::max(Lerp(From, To, Share), 0.3f);
                 const float Cover = Clamp(Half - std::sqrt(Far2) + 0.5f);
                 WetPixel& W = Wet[std::size_t(Y * Width + X)];
                 if (Cover <= W.Cover) continue;
                 W.Cover = Cover;
+                if (!Bristled) continue;
                 W.Side = (PY * DX - PX * DY) / Length;
                 W.Along = Run + T * Length;
             }
@@ -251,7 +222,6 @@ void Stroke(Canvas& C, const Line& Way, float From, float To, Rgb Colour, float 
         Run += Length;
     }
     const std::uint32_t Seed = std::uint32_t(C.Chance >> 20);
-    const bool Bristled = Widest > 3;
     for (int Y = Y0; Y <= Y1; ++Y) {
         for (int X = X0; X <= X1; ++X) {
             const std::size_t I = std::size_t(Y * Width + X);

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -36,18 +37,43 @@ constexpr Rgb Hex(std::uint32_t Code)
 {
     return {float(Code >> 16 & 255) / 255, float(Code >> 8 & 255) / 255, float(Code & 255) / 255};
 }
-Rgb Mix(Rgb A, Rgb B, float Share); // Share 0 is A, 1 is B
-Rgb Times(Rgb A, Rgb B);
-Rgb Times(Rgb A, float Factor);
-Rgb Plus(Rgb A, Rgb B);
-float Brightness(Rgb Colour);
+constexpr Rgb Mix(Rgb A, Rgb B, float Share) // Share 0 is A, 1 is B
+{
+    return {A.R + (B.R - A.R) * Share, A.G + (B.G - A.G) * Share, A.B + (B.B - A.B) * Share};
+}
+constexpr Rgb Times(Rgb A, Rgb B)
+{
+    return {A.R * B.R, A.G * B.G, A.B * B.B};
+}
+constexpr Rgb Times(Rgb A, float Factor)
+{
+    return {A.R * Factor, A.G * Factor, A.B * Factor};
+}
+constexpr Rgb Plus(Rgb A, Rgb B)
+{
+    return {A.R + B.R, A.G + B.G, A.B + B.B};
+}
+constexpr float Brightness(Rgb Colour)
+{
+    return 0.3f * Colour.R + 0.59f * Colour.G + 0.11f * Colour.B;
+}
 Rgb Saturate(Rgb Colour, float Factor); // 0 grey, 1 unchanged
 QColor ToQColor(Rgb Colour, float Alpha = 1);
 
 // numbers
-float Clamp(float Value, float Low = 0, float High = 1);
-float Smooth(float From, float To, float Value); // 0 up to From, 1 from To on
-float Lerp(float A, float B, float Share);
+constexpr float Clamp(float Value, float Low = 0, float High = 1)
+{
+    return std::min(std::max(Value, Low), High);
+}
+constexpr float Smooth(float From, float To, float Value) // 0 up to From, 1 from To on
+{
+    const float T = Clamp((Value - From) / (To - From));
+    return T * T * (3 - 2 * T);
+}
+constexpr float Lerp(float A, float B, float Share)
+{
+    return A + (B - A) * Share;
+}
 
 // chance: the same seed gives the same run of numbers
 float Any(Canvas& C, float Low = 0, float High = 1);

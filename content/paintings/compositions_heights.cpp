@@ -449,7 +449,8 @@ void PaintPerch(Scene& P)
     const float H = Vary(P, 270, 340);
     PaintSky(P, H);
     PaintCloudSea(P, H, Height);
-    Ranges(P, Hill::Karst, 1, 110, H + 6, 0, 0.4f);
+    Ranges(P, P.Variant % 2 ? Hill::Karst : Hill::Alpine, 3, Vary(P, 70, 150, 4), H + 6,
+           P.Snow ? 0.8f : 0.2f, 0.4f);
     PaintMist(P, H, 34, 0.7f);
     const float X = Vary(P, 180, 540, 2), Top = Vary(P, 160, 270, 5), Half = Vary(P, 60, 130, 7);
     QPainterPath Path(QPointF(X - Half * 1.3f, 440));

@@ -350,11 +350,11 @@ void PaintStairs(Scene& P)
 
 void PaintBranch(Scene& P)
 {
-    const float H = Vary(P, 252, 406);
+    const float H = Vary(P, 240, 350);
     const bool Disc = P.L->OrbSize == 0 || P.Seed % 2; // a great one behind the branch
     Disc ? PaintSkyWithoutOrb(P, H) : PaintSky(P, H);
-    Ranges(P, P.Seed % 3 == 0 ? Hill::Karst : Hill::Soft, 2 + AnyOf(P.C, 2), Any(P.C, 60, 150), H,
-           P.Snow ? 0.7f : 0, 0);
+    static constexpr Hill Kinds[] = {Hill::Soft, Hill::Karst, Hill::Alpine};
+    Ranges(P, Kinds[P.Variant % 3], 3, Vary(P, 80, 170, 5), H, P.Snow ? 0.7f : 0.2f, 0.5f);
     PaintMist(P, H - 10, 40, 0.8f);
     if (Disc) {
         const float R = Any(P.C, 50, 84), MX = Any(P.C, 380, 560), MY = Any(P.C, 100, 170);
@@ -364,8 +364,22 @@ void PaintBranch(Scene& P)
         SoftDab(P.C, MX, MY, R * 2, R * 2, Paint, 0.35f);
         Dab(P.C, MX, MY, R * 2, R * 2, 0, Paint, 0.92f);
     }
-    PaintMotif(P, P.Plan.Motif, Any(P.C, 480, 620), H + 2, 76, 0.9f);
-    PaintMist(P, Height - 6, 50, 0.8f);
+    const float Spot = Vary(P, 400, 640, 2);
+    Village(P, Spot - 130, Spot + 110, H + 6, 17, 7, 0.9f);
+    PaintMotif(P, P.Plan.Motif, Spot, H + 4, Vary(P, 76, 120, 7), 0.7f);
+    if (P.Variant % 2) {
+        PaintWater(P, nullptr, H + 8, 0.5f, 0.25f);
+        if (P.L->OrbSize > 0 || Disc) PaintGlitter(P, H + 10, Height, 0.5f);
+        Boat(P, "raft", Any(P.C, 250, 420), Lerp(H, Height, 0.45f), 66, 0.15f);
+    } else {
+        PaintMeadow(P, nullptr, H + 2, GroundColour(P), WoodColour(P), 1);
+        for (int I = 0; I < 24; ++I) {
+            const float T = Any(P.C);
+            PaintTree(P, SeasonTree(P), Any(P.C, 0, 720), Lerp(H + 8, Height, T * T), 24 + 60 * T,
+                      0.9f * (1 - T));
+        }
+        PaintMist(P, Lerp(H, Height, 0.4f), 24, 0.5f, 1.5f);
+    }
     PaintLife(P, 380);
     const Tree Kind = P.Plan.Season == "spring"   ? Tree::Cherry
                       : P.Plan.Season == "autumn" ? Tree::Maple

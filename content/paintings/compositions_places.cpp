@@ -130,11 +130,11 @@ void PaintBlossomHill(Scene& P)
     const float Top = Vary(P, 100, 210, 2), X = Vary(P, 170, 550, 5), Wide = Vary(P, 0.7f, 1.5f, 7);
     Ranges(P, Hill::Soft, 1, 130, H, P.Snow ? 0.6f : 0, 0.3f);
     PaintMist(P, H - 80, 50, 0.5f);
-    const Mask Hillock = Below({{X - 520 * Wide, Top + 250},
+    const Mask Hillock = Below({{std::min(-40.0f, X - 520 * Wide), Top + 250},
                                 {X - 200 * Wide, Top + 70},
                                 {X, Top + 10},
                                 {X + 200 * Wide, Top + 70},
-                                {X + 520 * Wide, Top + 250}});
+                                {std::max(760.0f, X + 520 * Wide), Top + 250}});
     PaintMeadow(P, &Hillock, Top - 30, GroundColour(P), GroundColour(P), 1);
     PaintMotif(P, P.Plan.Motif == "none" ? "pagoda" : P.Plan.Motif, X, Top + 30, 120, 0.35f);
     for (int Row = 0; Row < 6; ++Row) { // a whole hill of crowns
