@@ -250,7 +250,7 @@ void Repaint(Canvas& C, const Mask* Area, const std::vector<BrushPass>& Passes)
                                  std::clamp(int(X), 0, Width - 1))];
     };
     for (const BrushPass& Pass : Passes) {
-        const float R = Pass.Radius, Step = std::max(R * 1.1f, 1.4f);
+        const float R = Pass.Radius, Step = std::max(R * 1.5f, 1.7f);
         struct Start {
             float X, Y;
         };

@@ -126,6 +126,18 @@ void Ranges(Scene& P, Hill Kind, int Count, float Tall, float Foot, float Snow, 
     }
 }
 
+std::vector<float> PaintHillWhere(Scene& P, const HillLook& Look, const Share& Seen)
+{
+    const std::vector<Rgb> Before = P.C.Px;
+    const std::vector<float> Crest = PaintHill(P, Look);
+    for (int Y = 0; Y < Height; ++Y)
+        for (int X = 0; X < Width; ++X) {
+            const std::size_t I = std::size_t(Y * Width + X);
+            P.C.Px[I] = Mix(Before[I], P.C.Px[I], Seen(float(X), float(Y), Crest[std::size_t(X)]));
+        }
+    return Crest;
+}
+
 void PaintSkyWithoutOrb(Scene& P, float Horizon)
 {
     const Light* const Own = P.L;

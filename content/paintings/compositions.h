@@ -8,6 +8,10 @@ Rgb GroundColour(const Scene& P);
 // Count ranges one before the other, each nearer one lower and darker, the last at Foot.
 void Ranges(Scene& P, Hill Kind, int Count, float Tall, float Foot, float Snow, float Trees);
 
+// A hill of which only a part is seen: Seen is asked at each place, 0 hidden to 1 seen.
+using Share = std::function<float(float X, float Y, float Crest)>;
+std::vector<float> PaintHillWhere(Scene& P, const HillLook& Look, const Share& Seen);
+
 // A rock cut out along Path, lit from the side of the sun; it fades into haze between two heights.
 void CutRock(Scene& P, const QPainterPath& Path, float X, float Half, Rgb Local, float Far,
              float HazeFrom, float HazeTo);

@@ -24,19 +24,13 @@ void PaintCloudPeaks(Scene& P)
         Peak.Grain = Any(P.C, 90, 170), Peak.Far = 1.5f - 0.4f * float(I);
         Peak.Local = RockColour(P), Peak.Snow = P.Snow ? 1.0f : 0.35f,
         Peak.Trees = P.Seed % 3 == 0 ? 0.6f : 0, Peak.Mist = 0.5f;
-        const std::vector<Rgb> Before = P.C.Px;
-        const std::vector<float> Crest = PaintHill(P, Peak);
         // its foot drowns in cloud again
-        for (int Y = 0; Y < Height; ++Y)
-            for (int X = 0; X < Width; ++X) {
-                const std::size_t At0 = std::size_t(Y * Width + X);
-                const float Edge =
-                    Peak.Foot - 14 +
-                    40 * (Fbm(float(X) / 55, float(Y) / 22, 3, P.Seed + std::uint32_t(I)) - 0.5f);
-                const float Low = Smooth(Edge - 34, Edge, float(Y));
-                const float Steep = Smooth(14, 0, Peak.Foot - Crest[std::size_t(X)]);
-                P.C.Px[At0] = Mix(P.C.Px[At0], Before[At0], std::max(Low, Steep));
-            }
+        const auto Seen = [&](float X, float Y, float Top) {
+            const float Edge =
+                Peak.Foot - 14 + 40 * (Fbm(X / 55, Y / 22, 3, P.Seed + std::uint32_t(I)) - 0.5f);
+            return 1 - std::max(Smooth(Edge - 34, Edge, Y), Smooth(14, 0, Peak.Foot - Top));
+        };
+        const std::vector<float> Crest = PaintHillWhere(P, Peak, Seen);
         if (I == 2) {
             PaintMotif(P, P.Plan.Motif, Peak.Centre, CrestAtX(Crest, Peak.Centre) + 10, 74, 0.4f);
             for (int K = 0; K < 5; ++K) {
@@ -121,12 +115,7 @@ void PaintCone(Scene& P)
         PaintTree(P, SeasonTree(P), Any(P.C) < 0.5f ? Any(P.C, -10, 170) : Any(P.C, 560, 730),
                   H + Any(P.C, 40, 100), Any(P.C, 60, 120), 0.2f);
     PaintLife(P, H + 100);
-    if (P.Seed % 4 < 2)
-        Overhang(P,
-                 P.Plan.Season == "spring"   ? Tree::Cherry
-                 : P.Plan.Season == "autumn" ? Tree::Maple
-                                             : Tree::Pine,
-                 Any(P.C, 240, 380));
+    if (P.Seed % 4 < 2) Overhang(P, FestiveTree(P, Tree::Pine), Any(P.C, 240, 380));
 }
 
 void PaintAlps(Scene& P)

@@ -456,12 +456,7 @@ void PaintMoonGate(Scene& P)
         Q.setBrush(ToQColor(Lit(P, Times(Tile, 0.5f), 0.2f, 0)));
         Q.drawRect(QRectF(0, -2, Width, 6));
     });
-    if (P.Seed % 2)
-        Overhang(P,
-                 P.Plan.Season == "autumn"   ? Tree::Maple
-                 : P.Plan.Season == "spring" ? Tree::Cherry
-                                             : Tree::Bamboo,
-                 170);
+    if (P.Seed % 2) Overhang(P, FestiveTree(P, Tree::Bamboo), 170);
     for (int I = 0; I < 5; ++I)
         Bush(P, P.Seed % 2 ? Any(P.C, 590, 730) : Any(P.C, -10, 120), Height - 10, Any(P.C, 24, 44),
              0);

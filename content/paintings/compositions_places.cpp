@@ -123,10 +123,7 @@ void PaintBlossomHill(Scene& P)
 {
     const float H = Vary(P, 330, 370);
     PaintSky(P, H);
-    const Tree Kind = P.Plan.Season == "spring"   ? Tree::Cherry
-                      : P.Plan.Season == "autumn" ? Tree::Maple
-                      : P.Snow                    ? Tree::Pine
-                                                  : Tree::Round;
+    const Tree Kind = FestiveTree(P, P.Snow ? Tree::Pine : Tree::Round);
     const float Top = Vary(P, 100, 210, 2), X = Vary(P, 170, 550, 5), Wide = Vary(P, 0.7f, 1.5f, 7);
     Ranges(P, Hill::Soft, 1, 130, H, P.Snow ? 0.6f : 0, 0.3f);
     PaintMist(P, H - 80, 50, 0.5f);
@@ -302,12 +299,7 @@ void PaintGreatBridge(Scene& P)
     Boat(P, P.Seed % 2 ? "row" : "raft", 350, H + 92, 84, 0.05f);
     PaintLife(P, H + 130);
     if (P.Seed % 3 == 0) Overhang(P, Tree::Willow, 210);
-    if (P.Seed % 3 == 1)
-        Overhang(P,
-                 P.Plan.Season == "spring"   ? Tree::Cherry
-                 : P.Plan.Season == "autumn" ? Tree::Maple
-                                             : Tree::Pine,
-                 260);
+    if (P.Seed % 3 == 1) Overhang(P, FestiveTree(P, Tree::Pine), 260);
 }
 
 void PaintCamp(Scene& P)

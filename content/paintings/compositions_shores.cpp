@@ -171,12 +171,9 @@ void PaintBay(Scene& P)
     Cape.Kind = Hill::Soft, Cape.Foot = H + 46, Cape.Top = H - 34, Cape.Centre = 700,
     Cape.Spread = 200, Cape.Grain = 220, Cape.Far = 0.8f, Cape.Local = WoodColour(P),
     Cape.Trees = 0.6f, Cape.Mist = 0.3f;
-    const std::vector<Rgb> Before = P.C.Px;
-    PaintHill(P, Cape);
-    for (int Y = 0; Y < Height; ++Y)
-        for (int X = 0; X < Width; ++X)
-            if (float(Y) > Cape.Foot - 0.00045f * float((Width - X) * (Width - X)) || X < 420)
-                P.C.Px[std::size_t(Y * Width + X)] = Before[std::size_t(Y * Width + X)];
+    PaintHillWhere(P, Cape, [&](float X, float Y, float) {
+        return Y > Cape.Foot - 0.00045f * (Width - X) * (Width - X) || X < 420 ? 0.0f : 1.0f;
+    });
     // the beach swings from far right to near left
     const Line Shore{
         {740, H + 52},          {600 + Shift * 0.5f, H + 66},  {450 + Shift, H + 108},
@@ -279,12 +276,7 @@ void PaintBrook(Scene& P)
     for (int I = 0; I < 5; ++I)
         Bush(P, I % 2 ? Any(P.C, -10, 130) : Any(P.C, 600, 730), Any(P.C, 380, 425),
              Any(P.C, 26, 50), 0);
-    if (P.Seed % 3 == 1)
-        Overhang(P,
-                 P.Plan.Season == "autumn"   ? Tree::Maple
-                 : P.Plan.Season == "spring" ? Tree::Cherry
-                                             : Tree::Round,
-                 300);
+    if (P.Seed % 3 == 1) Overhang(P, FestiveTree(P, Tree::Round), 300);
     PaintLife(P, H + 110);
 }
 
@@ -554,7 +546,6 @@ void PaintHighView(Scene& P)
     Ranges(P, Hill::Alpine, 2, 90, H + 4, P.Snow ? 1.0f : 0.4f, 0);
     PaintWater(P, nullptr, H + 20, 0.3f, 0.3f);
     for (int I = 0; I < 5; ++I) { // spurs from both sides reach into the fjord below
-        const std::vector<Rgb> Before = P.C.Px;
         const float Side = (I + int(P.Seed)) % 2 ? 1.0f : -1.0f, Foot = H + 36 + 40 * float(I);
         HillLook Spur;
         Spur.Kind = I % 2 ? Hill::Cliff : Hill::Soft;
@@ -562,13 +553,10 @@ void PaintHighView(Scene& P)
         Spur.Spread = Any(P.C, 250, 330), Spur.Grain = 160;
         Spur.Far = 1.2f - 0.24f * float(I), Spur.Local = Mix(RockColour(P), WoodColour(P), 0.6f),
         Spur.Trees = 0.7f, Spur.Snow = P.Snow ? 0.6f : 0.1f, Spur.Mist = 0.25f;
-        const std::vector<float> Crest = PaintHill(P, Spur);
-        for (int X = 0; X < Width; ++X)
-            for (int Y = 0; Y < Height; ++Y) {
-                const float Rest = Spur.Foot - Crest[std::size_t(X)];
-                if (Rest < 24 || float(Y) > Spur.Foot - 10 + 0.25f * Rest)
-                    P.C.Px[std::size_t(Y * Width + X)] = Before[std::size_t(Y * Width + X)];
-            }
+        PaintHillWhere(P, Spur, [&](float, float Y, float Top) {
+            const float Rest = Spur.Foot - Top;
+            return Rest < 24 || Y > Spur.Foot - 10 + 0.25f * Rest ? 0.0f : 1.0f;
+        });
     }
     PaintGlitter(P, H + 24, 340, P.L->OrbSize > 0 ? 0.5f : 0.15f);
     for (int I = 0; I < 3; ++I)
@@ -643,11 +631,8 @@ void PaintStoneGarden(Scene& P)
         Rock(P, S.X + S.S * 0.8f, S.Y + 3, S.S * 0.5f, 0.1f);
     }
     Lantern(P, Vary(P, 60, 280, 5), Wall + 30, Vary(P, 60, 120, 7), 0.15f);
-    PaintTree(P,
-              P.Plan.Season == "autumn"   ? Tree::Maple
-              : P.Plan.Season == "spring" ? Tree::Cherry
-                                          : Tree::Pine,
-              Vary(P, 330, 660, 2), Wall + 16, Any(P.C, 140, 190), 0.1f);
+    PaintTree(P, FestiveTree(P, Tree::Pine), Vary(P, 330, 660, 2), Wall + 16, Any(P.C, 140, 190),
+              0.1f);
     PaintLife(P, Wall + 70);
 }
 

@@ -109,16 +109,12 @@ void PaintCoast(Scene& P)
         Look.Centre = -40;
         Look.Spread = 470 - 120 * float(I);
         Look.Mist = 0.3f;
-        const std::vector<Rgb> Before = P.C.Px;
-        const std::vector<float> Crest = PaintHill(P, Look);
         const float End = Look.Centre + Look.Spread * 1.15f;
         // the sea stands before the foot of each headland
-        for (int Y = 0; Y < Height; ++Y)
-            for (int X = 0; X < Width; ++X) {
-                const float Shore = Look.Foot + 5 * (Noise(float(X) / 25, float(I), P.Seed) - 0.5f);
-                if (float(Y) > Shore || float(X) > End + 12 * Noise(float(Y) / 9, float(I), P.Seed))
-                    P.C.Px[std::size_t(Y * Width + X)] = Before[std::size_t(Y * Width + X)];
-            }
+        const std::vector<float> Crest = PaintHillWhere(P, Look, [&](float X, float Y, float) {
+            const float Shore = Look.Foot + 5 * (Noise(X / 25, float(I), P.Seed) - 0.5f);
+            return Y > Shore || X > End + 12 * Noise(Y / 9, float(I), P.Seed) ? 0.0f : 1.0f;
+        });
         Wood(P, Crest, 0, Look.Spread * 0.7f, 9 + 4 * float(I), Look.Far, P.Snow ? 0.2f : 0.6f);
         if (I == 1) PaintMotif(P, P.Plan.Motif, Any(P.C, 120, 200), Crest[160] + 8, 88, 0.5f);
         PaintSurf(P,
@@ -290,12 +286,7 @@ void PaintStillness(Scene& P)
     Boat(P, P.Seed % 2 ? "raft" : "row", Any(P.C, 440, 620), Lerp(Y, Height, Any(P.C, 0.3f, 0.6f)),
          Any(P.C, 40, 70), 0.1f);
     PaintLife(P, Y + 60);
-    if (P.Seed % 4 == 0)
-        Overhang(P,
-                 P.Plan.Season == "spring"   ? Tree::Cherry
-                 : P.Plan.Season == "autumn" ? Tree::Maple
-                                             : Tree::Pine,
-                 250);
+    if (P.Seed % 4 == 0) Overhang(P, FestiveTree(P, Tree::Pine), 250);
 }
 
 void PaintMarsh(Scene& P)
@@ -494,7 +485,6 @@ void PaintIslets(Scene& P)
     for (int Row = 0; Row < 4; ++Row) {
         const float T = float(Row) / 3, Foot = H + 4 + 70 * T * T + 22 * T;
         for (int I = 0; I < 4 - Row; ++I) {
-            const std::vector<Rgb> Before = P.C.Px;
             HillLook Islet;
             Islet.Kind = Hill::Karst;
             Islet.Grain = Any(P.C, 60, 100) * (0.8f + 0.8f * T);
@@ -502,13 +492,12 @@ void PaintIslets(Scene& P)
             Islet.Centre = Any(P.C, 40, 680), Islet.Spread = Islet.Grain * 0.9f;
             Islet.Far = 1.6f - 1.25f * T, Islet.Local = Mix(RockColour(P), WoodColour(P), 0.45f);
             Islet.Trees = 0.7f, Islet.Mist = 0.3f;
-            PaintHill(P, Islet);
-            for (int Y = 0; Y < Height; ++Y)
-                for (int X = 0; X < Width; ++X)
-                    if (float(Y) > Foot ||
-                        std::fabs(float(X) - Islet.Centre) >
-                            Islet.Grain * 1.15f + 8 * Noise(float(Y) / 8, Islet.Centre, P.Seed))
-                        P.C.Px[std::size_t(Y * Width + X)] = Before[std::size_t(Y * Width + X)];
+            PaintHillWhere(P, Islet, [&](float X, float Y, float) {
+                return Y > Foot || std::fabs(X - Islet.Centre) >
+                                       Islet.Grain * 1.15f + 8 * Noise(Y / 8, Islet.Centre, P.Seed)
+                           ? 0.0f
+                           : 1.0f;
+            });
             for (int K = 0; K < 26; ++K) // its broken reflection
                 Dab(P.C, Islet.Centre + AnyBell(P.C) * Islet.Grain, Foot + Any(P.C) * (10 + 40 * T),
                     Any(P.C, 10, 50), 1.4f + 1.5f * T, 0,

@@ -401,6 +401,13 @@ Tree SeasonTree(Scene& P)
     return Pick < 0.4f ? Tree::Bare : Pick < 0.75f ? Tree::Fir : Tree::Pine;
 }
 
+Tree FestiveTree(const Scene& P, Tree Otherwise)
+{
+    return P.Plan.Season == "spring"   ? Tree::Cherry
+           : P.Plan.Season == "autumn" ? Tree::Maple
+                                       : Otherwise;
+}
+
 void Wood(Scene& P, const std::vector<float>& Crest, float X0, float X1, float Tall, float Far,
           float Density)
 {
@@ -429,10 +436,55 @@ void Wood(Scene& P, const std::vector<float>& Crest, float X0, float X1, float T
     }
 }
 
+// What a bough of an overhanging tree bears at one of its points.
+static void BareTwig(Scene& P, Point K, std::size_t I, Rgb Bark)
+{
+    if (I % 3 == 0)
+        Stroke(P.C, {K, {K.X + Any(P.C, 5, 40), K.Y + Any(P.C, -30, 34)}}, 1.2f, 0.4f,
+               Lit(P, Bark, 0.3f, 0), 1);
+    if (P.Snow) Dab(P.C, K.X, K.Y - 3, 12, 3.4f, 0.3f, Lit(P, Hex(0xf4f8ff), 0.8f, 0), 0.95f);
+}
+
+static void BambooLeaves(Scene& P, Point K, const Foliage& F)
+{
+    for (int L = 0; L < 3; ++L) {
+        const float A = Any(P.C, 0.4f, 2.2f), S = Any(P.C, 26, 50), Shade = Any(P.C);
+        Dab(P.C, K.X + std::cos(A) * S / 2, K.Y + std::sin(A) * S / 2, S, 6, A,
+            Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.95f, true);
+    }
+}
+
+static void WillowTwigs(Scene& P, Point K, const Foliage& F)
+{
+    for (int L = 0; L < 3; ++L) {
+        const float S = Any(P.C, 40, 170), Shade = Any(P.C), WX = K.X + AnyBell(P.C) * 10;
+        Stroke(P.C, Curve({{WX, K.Y}, {WX + 5, K.Y + S * 0.5f}, {WX - 3, K.Y + S}}, 5), 1.0f, 0.4f,
+               Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.9f);
+        for (float T = 0; T < S; T += 7)
+            Dab(P.C, WX + AnyBell(P.C) * 4, K.Y + T, 7, 2, Any(P.C, 1.0f, 2.1f),
+                Lit(P, Mix(F.Middle, F.Light, Any(P.C)), Shade, 0), 0.85f, true);
+    }
+}
+
+static void PineTufts(Scene& P, Point K, const Foliage& F)
+{
+    for (int L = 0; L < 2; ++L) {
+        const float CX = K.X + AnyBell(P.C) * 20, CY = K.Y + AnyBell(P.C) * 12;
+        for (int N = 0; N < 22; ++N) {
+            const float A = Any(P.C, 0, 2 * Pi), S = Any(P.C, 9, 17),
+                        Shade = Clamp(0.5f - 0.5f * std::sin(A) + 0.2f * AnyBell(P.C));
+            Dab(P.C, CX + std::cos(A) * S / 2, CY + std::sin(A) * S / 2 * 0.7f, S, 1.3f,
+                std::atan2(std::sin(A) * 0.7f, std::cos(A)),
+                Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.95f, true);
+        }
+    }
+}
+
 void Overhang(Scene& P, Tree Kind, float Reach)
 {
     const Foliage F = FoliageOf(P, Kind);
     const Rgb Bark = BarkOf(P, Kind);
+    const bool Evergreen = Kind == Tree::Pine || Kind == Tree::Fir || Kind == Tree::Bamboo;
     const int Boughs = 3 + AnyOf(P.C, 2);
     for (int B = 0; B < Boughs; ++B) {
         const float Y0 = Any(P.C, -30, 50), EX = Reach * Any(P.C, 0.55f, 1.1f),
@@ -445,50 +497,17 @@ void Overhang(Scene& P, Tree Kind, float Reach)
         Limb(P, Way, 6 - float(B), 1, Bark, 0);
         for (std::size_t I = 3; I < Way.size(); ++I) {
             const Point K = Way[I];
-            if (Kind == Tree::Bare ||
-                (P.Snow && Kind != Tree::Pine && Kind != Tree::Fir && Kind != Tree::Bamboo)) {
-                if (I % 3 == 0)
-                    Stroke(P.C, {K, {K.X + Any(P.C, 5, 40), K.Y + Any(P.C, -30, 34)}}, 1.2f, 0.4f,
-                           Lit(P, Bark, 0.3f, 0), 1);
-                if (P.Snow)
-                    Dab(P.C, K.X, K.Y - 3, 12, 3.4f, 0.3f, Lit(P, Hex(0xf4f8ff), 0.8f, 0), 0.95f);
-                continue;
-            }
-            if (Kind == Tree::Bamboo) {
-                for (int L = 0; L < 3; ++L) {
-                    const float A = Any(P.C, 0.4f, 2.2f), S = Any(P.C, 26, 50), Shade = Any(P.C);
-                    Dab(P.C, K.X + std::cos(A) * S / 2, K.Y + std::sin(A) * S / 2, S, 6, A,
-                        Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.95f, true);
-                }
-                continue;
-            }
-            if (Kind == Tree::Willow) {
-                for (int L = 0; L < 3; ++L) {
-                    const float S = Any(P.C, 40, 170), Shade = Any(P.C),
-                                WX = K.X + AnyBell(P.C) * 10;
-                    Stroke(P.C, Curve({{WX, K.Y}, {WX + 5, K.Y + S * 0.5f}, {WX - 3, K.Y + S}}, 5),
-                           1.0f, 0.4f, Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.9f);
-                    for (float T = 0; T < S; T += 7)
-                        Dab(P.C, WX + AnyBell(P.C) * 4, K.Y + T, 7, 2, Any(P.C, 1.0f, 2.1f),
-                            Lit(P, Mix(F.Middle, F.Light, Any(P.C)), Shade, 0), 0.85f, true);
-                }
-                continue;
-            }
-            if (Kind == Tree::Pine) {
-                for (int L = 0; L < 2; ++L) {
-                    const float CX = K.X + AnyBell(P.C) * 20, CY = K.Y + AnyBell(P.C) * 12;
-                    for (int N = 0; N < 22; ++N) {
-                        const float A = Any(P.C, 0, 2 * Pi), S = Any(P.C, 9, 17),
-                                    Shade = Clamp(0.5f - 0.5f * std::sin(A) + 0.2f * AnyBell(P.C));
-                        Dab(P.C, CX + std::cos(A) * S / 2, CY + std::sin(A) * S / 2 * 0.7f, S, 1.3f,
-                            std::atan2(std::sin(A) * 0.7f, std::cos(A)),
-                            Lit(P, Mix(F.Dark, F.Light, Shade), Shade, 0), 0.95f, true);
-                    }
-                }
-                continue;
-            }
-            LeafMass(P, K.X + AnyBell(P.C) * 18, K.Y + AnyBell(P.C) * 12, Any(P.C, 12, 26),
-                     Any(P.C, 8, 16), 4.6f, 26, F.Dark, F.Middle, F.Light, 0);
+            if (Kind == Tree::Bare || (P.Snow && !Evergreen))
+                BareTwig(P, K, I, Bark);
+            else if (Kind == Tree::Bamboo)
+                BambooLeaves(P, K, F);
+            else if (Kind == Tree::Willow)
+                WillowTwigs(P, K, F);
+            else if (Kind == Tree::Pine)
+                PineTufts(P, K, F);
+            else
+                LeafMass(P, K.X + AnyBell(P.C) * 18, K.Y + AnyBell(P.C) * 12, Any(P.C, 12, 26),
+                         Any(P.C, 8, 16), 4.6f, 26, F.Dark, F.Middle, F.Light, 0);
         }
     }
 }

@@ -102,7 +102,8 @@ void PathWay(Scene& P, const Line& Middle, float From, float To, Rgb Colour);
 // plants.cpp: X, Y is where it leaves the ground, Tall its height
 enum class Tree { Round, Cherry, Maple, Pine, Fir, Cypress, Birch, Willow, Palm, Bare, Bamboo };
 void PaintTree(Scene& P, Tree Kind, float X, float Y, float Tall, float Far);
-Tree SeasonTree(Scene& P); // one that suits the season
+Tree SeasonTree(Scene& P);                        // one that suits the season
+Tree FestiveTree(const Scene& P, Tree Otherwise); // cherry in spring, maple in autumn
 void Wood(Scene& P, const std::vector<float>& Crest, float X0, float X1, float Tall, float Far,
           float Density);                        // a far wood along a line
 void Overhang(Scene& P, Tree Kind, float Reach); // a near branch from the upper left corner

@@ -5,8 +5,27 @@
 #include <algorithm>
 #include <cmath>
 
+struct Puff {
+    float X, Y, R; // Y up from the horizon
+};
+
+// The round heads of a heaped cloud, broad below and small on top.
+static std::vector<Puff> TowerOf(const Scene& P)
+{
+    const std::uint32_t Seed = P.Seed + 900;
+    const float Middle = 360 + (float(P.Seed % 7) - 3) * 50;
+    std::vector<Puff> Tower;
+    for (int K = 0; K < 26; ++K) {
+        const float T = float(K) / 25, FK = float(K) * 3.7f;
+        Tower.push_back({Middle + (Noise(FK, 1, Seed) - 0.5f) * (390 - 270 * T),
+                         22 + 215 * T * (0.5f + 0.7f * Noise(FK, 5, Seed)),
+                         (62 - 26 * T) * (0.6f + 0.8f * Noise(FK, 9, Seed))});
+    }
+    return Tower;
+}
+
 // How thick a cloud is at a point of the sky, 0 to 1. Up is the height over the horizon, 0 to 1.
-static float CloudAt(const Scene& P, float X, float Y, float Up)
+static float CloudAt(const Scene& P, const std::vector<Puff>& Tower, float X, float Y, float Up)
 {
     const std::string& Kind = P.Plan.Sky;
     const std::uint32_t Seed = P.Seed + 900;
@@ -25,14 +44,9 @@ static float CloudAt(const Scene& P, float X, float Y, float Up)
         return Smooth(0.52f, 0.60f, D) * Smooth(0.0f, 0.1f, Up);
     }
     if (Kind == "heaped") { // one great tower of round heads on a flat base
-        const float Middle = 360 + (float(P.Seed % 7) - 3) * 50, High = Up * 270;
         float Head = -1;
-        for (int K = 0; K < 26; ++K) {
-            const float T = float(K) / 25, FK = float(K) * 3.7f;
-            const float CX = Middle + (Noise(FK, 1, Seed) - 0.5f) * (390 - 270 * T),
-                        CY = 22 + 215 * T * (0.5f + 0.7f * Noise(FK, 5, Seed)),
-                        R = (62 - 26 * T) * (0.6f + 0.8f * Noise(FK, 9, Seed));
-            const float DX = (X - CX) / R, DY = (High - CY) / R;
+        for (const Puff& Round : Tower) {
+            const float DX = (X - Round.X) / Round.R, DY = (Up * 270 - Round.Y) / Round.R;
             Head = std::max(Head, 1 - std::sqrt(DX * DX + DY * DY));
         }
         Head += 0.5f * (Fbm(X / 26, Y / 22, 4, Seed + 2) - 0.5f);
@@ -307,6 +321,33 @@ static void PaintMeteors(Scene& P)
     }
 }
 
+static void PaintClouds(Scene& P, float Horizon)
+{
+    const Light& L = *P.L;
+    const std::vector<Puff> Tower = TowerOf(P);
+    const Rgb Bright = Hex(L.CloudLit), Dark = Hex(L.CloudDark);
+    const float SX = P.SunX, SY = std::min(P.SunY, Horizon * 0.9f);
+    for (int Y = 0; Y < std::min(int(Horizon) + 2, Height); ++Y) {
+        const float Up = 1 - float(Y) / Horizon;
+        for (int X = 0; X < Width; ++X) {
+            const float D = CloudAt(P, Tower, float(X), float(Y), Up);
+            if (D <= 0.01f) continue;
+            // thinner towards the light than away from it: a lit edge
+            const float LX = SX - float(X), LY = SY - float(Y) - 30,
+                        N = 7 / (std::sqrt(LX * LX + LY * LY) + 20);
+            const float D2 = CloudAt(P, Tower, float(X) + LX * N, float(Y) + LY * N,
+                                     1 - (float(Y) + LY * N) / Horizon);
+            const float Near = std::exp(-std::sqrt(LX * LX + LY * LY) / 210);
+            const float Shade =
+                Clamp(0.62f + (D - D2) * 1.3f - 0.40f * D * D + 0.35f * Near +
+                      0.25f * (Fbm(float(X) / 34, float(Y) / 24, 2, P.Seed + 40) - 0.5f));
+            Rgb Colour = Mix(Dark, Bright, Shade);
+            Colour = Mix(Colour, Hex(L.Horizon), 0.45f * Smooth(0.3f, 0, Up));
+            Blend(P.C, X, Y, Colour, D * 0.95f);
+        }
+    }
+}
+
 void PaintSky(Scene& P, float Horizon)
 {
     P.Horizon = Horizon;
@@ -338,31 +379,11 @@ void PaintSky(Scene& P, float Horizon)
     const bool Clouded = P.Plan.Sky != "clear" && P.Plan.Sky != "aurora";
     // Stars and moon come after the strokes of the sky: they would be lost in them.
     if (!P.Night) PaintOrb(P);
-    if (Clouded) {
-        const Rgb Bright = Hex(L.CloudLit), Dark = Hex(L.CloudDark);
-        const float SX = P.SunX, SY = std::min(P.SunY, Horizon * 0.9f);
-        for (int Y = 0; Y < std::min(int(Horizon) + 2, Height); ++Y) {
-            const float Up = 1 - float(Y) / Horizon;
-            for (int X = 0; X < Width; ++X) {
-                const float D = CloudAt(P, float(X), float(Y), Up);
-                if (D <= 0.01f) continue;
-                // thinner towards the light than away from it: a lit edge
-                const float LX = SX - float(X), LY = SY - float(Y) - 30,
-                            N = 7 / (std::sqrt(LX * LX + LY * LY) + 20);
-                const float D2 = CloudAt(P, float(X) + LX * N, float(Y) + LY * N,
-                                         1 - (float(Y) + LY * N) / Horizon);
-                const float Near = std::exp(-std::sqrt(LX * LX + LY * LY) / 210);
-                const float Shade =
-                    Clamp(0.62f + (D - D2) * 1.3f - 0.40f * D * D + 0.35f * Near +
-                          0.25f * (Fbm(float(X) / 34, float(Y) / 24, 2, P.Seed + 40) - 0.5f));
-                Rgb Colour = Mix(Dark, Bright, Shade);
-                Colour = Mix(Colour, Hex(L.Horizon), 0.45f * Smooth(0.3f, 0, Up));
-                Blend(P.C, X, Y, Colour, D * 0.95f);
-            }
-        }
-    }
+    if (Clouded) PaintClouds(P, Horizon);
+    Mask Above(Width * Height, 0.0f); // what is sky, and a little of what the mist of hills shows
+    std::fill_n(Above.begin(), std::min(Height, int(Horizon) + 24) * Width, 1.0f);
     Repaint(
-        P.C, nullptr,
+        P.C, &Above,
         {{11, 7, -1, 0.035f}, {5.5f, 7, P.Night ? 0.05f : 0.06f, 0.03f}, {2.6f, 6, 0.09f, 0.02f}});
     if (P.Night) {
         if (P.Plan.Sky != "storm" && P.Plan.Sky != "stratus") PaintStars(P, Band, Banded, Horizon);
