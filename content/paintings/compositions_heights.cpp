@@ -253,11 +253,11 @@ void PaintChasm(Scene& P)
         Bends.push_back({RiverX(Y), Y});
     }
     const Mask Bed = Along(Bends, 3, 56);
-    PaintWater(P, &Bed, H + 40, 0.8f, 0.1f);
+    PaintWater(P, &Bed, H + 40, 0.3f, 0.1f);
     for (int Y = int(H) + 40; Y < Height; ++Y) // it lies deep, and still holds the sky
         for (int X = 0; X < Width; ++X)
-            Blend(P.C, X, Y, Sky(P, 0.10f + 0.4f * Noise(float(X) / 60, float(Y) / 4, P.Seed)),
-                  0.62f * Bed[std::size_t(Y * Width + X)]);
+            Blend(P.C, X, Y, Sky(P, 0.10f + 0.4f * Noise(float(X) / 30, float(Y) / 26, P.Seed)),
+                  0.75f * Bed[std::size_t(Y * Width + X)]);
     const float Rim = Middle > 360 ? -1.0f : 1.0f;
     const Mask Ledge = Below(Rim > 0 ? Line{{400, 460}, {490, 372}, {580, 318}, {740, 300}}
                                      : Line{{-20, 300}, {140, 318}, {230, 372}, {320, 460}});
@@ -406,7 +406,7 @@ void PaintViaduct(Scene& P)
     for (int I = 0; I < 12; ++I)
         PaintTree(P, SeasonTree(P), I % 2 ? Any(P.C, -10, 240) : Any(P.C, 500, 730),
                   Any(P.C, 350, 420), Any(P.C, 50, 130), 0.05f);
-    PaintLife(P, At0(0.75f).Deck - 4);
+    PaintLife(P, 396);
 }
 
 void PaintSunDisc(Scene& P)

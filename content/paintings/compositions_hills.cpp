@@ -17,13 +17,13 @@ void PaintCloudPeaks(Scene& P)
     PaintCloudSea(P, H, Height);
     for (int I = 0; I < 4; ++I) {
         HillLook Peak;
-        Peak.Kind = P.Seed % 3 == 0 ? Hill::Karst : Hill::Alpine;
+        Peak.Kind = Hill::Alpine;
         Peak.Foot = H + 20 + 52 * float(I);
         Peak.Top = Peak.Foot - Any(P.C, 150, 230) - 14 * float(I);
         Peak.Centre = Any(P.C, 0, 720), Peak.Spread = Any(P.C, 90, 170) + 24 * float(I);
         Peak.Grain = Any(P.C, 90, 170), Peak.Far = 1.5f - 0.4f * float(I);
         Peak.Local = RockColour(P), Peak.Snow = P.Snow ? 1.0f : 0.35f,
-        Peak.Trees = P.Seed % 3 == 0 ? 0.6f : 0, Peak.Mist = 0.5f;
+        Peak.Trees = P.Variant % 2 ? 0.6f : 0, Peak.Mist = 0.5f;
         // its foot drowns in cloud again
         const auto Seen = [&](float X, float Y, float Top) {
             const float Edge =
@@ -32,7 +32,8 @@ void PaintCloudPeaks(Scene& P)
         };
         const std::vector<float> Crest = PaintHillWhere(P, Peak, Seen);
         if (I == 2) {
-            PaintMotif(P, P.Plan.Motif, Peak.Centre, CrestAtX(Crest, Peak.Centre) + 10, 74, 0.4f);
+            PaintMotif(P, P.Plan.Motif, Peak.Centre,
+                       std::max(CrestAtX(Crest, Peak.Centre) + 10, 92.0f), 74, 0.4f);
             for (int K = 0; K < 5; ++K) {
                 const float X = Peak.Centre + AnyBell(P.C) * 70;
                 PaintTree(P, P.Snow ? Tree::Fir : Tree::Pine, X, CrestAtX(Crest, X) + 8,
@@ -64,7 +65,8 @@ void PaintPillars(Scene& P)
         const std::vector<float> Crest = PaintHill(P, Row);
         PaintMist(P, Row.Foot - 40, 40, 0.62f);
         if (I == 2)
-            PaintMotif(P, P.Plan.Motif, Row.Centre, CrestAtX(Crest, Row.Centre) + 8, 66, 0.5f);
+            PaintMotif(P, P.Plan.Motif, Row.Centre,
+                       std::max(CrestAtX(Crest, Row.Centre) + 8, 86.0f), 66, 0.5f);
         for (int K = 0; K < 5 && I > 1; ++K) {
             const float X = Any(P.C, 20, 700);
             if (CrestAtX(Crest, X) < Row.Foot - 60)
@@ -277,8 +279,8 @@ void PaintWall(Scene& P)
         const float T = float(I) / 2;
         HillLook Ridge;
         Ridge.Kind = Hill::Soft;
-        Ridge.Foot = H + 40 + 110 * T, Ridge.Top = Ridge.Foot - Any(P.C, 110, 150),
-        Ridge.Grain = Any(P.C, 180, 280);
+        Ridge.Foot = Lerp(H + 40, Height + 10.0f, T),
+        Ridge.Top = H - 70 + 100 * T - Any(P.C, 0, 40), Ridge.Grain = Any(P.C, 180, 280);
         Ridge.Far = 1.1f - 0.9f * T, Ridge.Local = WoodColour(P), Ridge.Trees = 0.75f,
         Ridge.Snow = P.Snow ? 0.6f : 0, Ridge.Mist = 0.45f;
         Ridge.Centre = I % 2 ? 560 : 160, Ridge.Spread = 560;

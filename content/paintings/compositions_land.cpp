@@ -407,7 +407,7 @@ void PaintMoonGate(Scene& P)
            0.6f);
     PaintMist(P, H - 4, 18, 0.5f);
     PaintMeadow(P, nullptr, H, GroundColour(P), GroundColour(P), 0.9f);
-    const float X = Vary(P, 220, 500, 2), Y = Vary(P, 195, 225, 5), R = Vary(P, 135, 182, 7);
+    const float X = Vary(P, 230, 490, 2), Y = Vary(P, 195, 225, 5), R = Vary(P, 162, 190, 7);
     for (int I = 0; I < 8; ++I)
         PaintTree(P, SeasonTree(P), X + Any(P.C, -170, 170), H + Any(P.C, 6, 24), Any(P.C, 40, 84),
                   0.6f);

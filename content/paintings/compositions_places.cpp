@@ -355,7 +355,7 @@ void PaintRooftops(Scene& P)
     PaintMist(P, H + 10, 26, 0.6f);
     PaintMeadow(P, nullptr, H + 6, Hex(0x70786c), Hex(0x80887c), 0.4f);
     PaintMotif(P, P.Plan.Motif, Vary(P, 130, 590, 4), H + 64, 150, 0.45f);
-    HillTown(P, H + 44, Height - 101, 66);
+    HillTown(P, H + 44, Height - 62, 70);
     // the ridge of the nearest roof, and who sits on it
     const float Hand = P.Seed % 2 ? 1.0f : -1.0f;
     const auto RidgeY = [&](float X) {

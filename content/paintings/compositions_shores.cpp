@@ -50,6 +50,13 @@ void PaintLakeView(Scene& P)
     const Mask Lake =
         Oval(Any(P.C, 340, 420), H + 110, Any(P.C, 300, 380), Any(P.C, 84, 110), P.Seed);
     PaintWater(P, &Lake, H + 14, 0.4f, 0.3f);
+    for (int Y = int(H); Y < Height; ++Y) // seen from above it shows more of the sky than its banks
+        for (int X = 0; X < Width; ++X)
+            Blend(P.C, X, Y,
+                  Times(Sky(P, Clamp((float(Y) - H) / 300) +
+                                   0.2f * Noise(float(X) / 60, float(Y) / 7, P.Seed)),
+                        0.9f),
+                  0.55f * Lake[std::size_t(Y * Width + X)]);
     Island(P, Any(P.C, 250, 360), H + 92, 92, P.Plan.Motif, 84, 0.5f);
     Island(P, Any(P.C, 470, 590), H + 60, 44, "none", 40, 0.8f);
     Boat(P, "sail", Any(P.C, 400, 520), H + 140, 34, 0.2f);
@@ -344,7 +351,7 @@ void PaintHorseshoe(Scene& P)
     for (int I = 0; I < 100; ++I) { // curtains and threads, with dark rock between
         const float U = float(I) / 49.5f - 1 + 0.01f * AnyBell(P.C);
         const float Water = Noise(U * 4.5f + 9, 4, P.Seed);
-        if (Water < 0.40f) continue;
+        if (Water < 0.34f) continue;
         PaintFall(P, Middle + U * 570, H + 40 + Bow * U * U + 8 * Noise(U * 13, 1, P.Seed),
                   300 + 46 * U * U, (4 + 26 * (Water - 0.40f)) * (1 + 0.9f * U * U),
                   0.5f - 0.35f * U * U);
@@ -555,7 +562,7 @@ void PaintHighView(Scene& P)
         Spur.Trees = 0.7f, Spur.Snow = P.Snow ? 0.6f : 0.1f, Spur.Mist = 0.25f;
         PaintHillWhere(P, Spur, [&](float, float Y, float Top) {
             const float Rest = Spur.Foot - Top;
-            return Rest < 24 || Y > Spur.Foot - 10 + 0.25f * Rest ? 0.0f : 1.0f;
+            return Rest < 12 || Y > Spur.Foot - 10 + 0.25f * Rest ? 0.0f : 1.0f;
         });
     }
     PaintGlitter(P, H + 24, 340, P.L->OrbSize > 0 ? 0.5f : 0.15f);

@@ -64,7 +64,7 @@ void PaintLake(Scene& P)
 
 void PaintOpenSea(Scene& P)
 {
-    const float H = P.Seed % 2 ? Any(P.C, 90, 150) : Any(P.C, 210, 290);
+    const float H = P.Seed % 2 ? Any(P.C, 126, 176) : Any(P.C, 210, 290);
     PaintSky(P, H);
     if (P.Seed % 3 == 0) Ranges(P, Hill::Soft, 2, 46, H + 1, 0, 0);
     PaintSea(P, H, Any(P.C, 0.5f, 1.3f), P.Seed % 2 ? Hex(0x285878) : Hex(0x246868));
@@ -97,7 +97,7 @@ void PaintCoast(Scene& P)
     const float H = Vary(P, 103, 209);
     PaintSky(P, H);
     PaintSea(P, H, 0.9f, P.Seed % 2 ? Hex(0x205070) : Hex(0x307878));
-    PaintGlitter(P, H + 2, H + 150, 0.5f);
+    PaintGlitter(P, H + 2, Height, 0.6f);
     for (int I = 0; I < 3; ++I) { // headlands, one before the other
         HillLook Look;
         Look.Kind = Hill::Cliff;
@@ -116,7 +116,9 @@ void PaintCoast(Scene& P)
             return Y > Shore || X > End + 12 * Noise(Y / 9, float(I), P.Seed) ? 0.0f : 1.0f;
         });
         Wood(P, Crest, 0, Look.Spread * 0.7f, 9 + 4 * float(I), Look.Far, P.Snow ? 0.2f : 0.6f);
-        if (I == 1) PaintMotif(P, P.Plan.Motif, Any(P.C, 120, 200), Crest[160] + 8, 88, 0.5f);
+        if (I == 1)
+            PaintMotif(P, P.Plan.Motif, Any(P.C, 120, 200), std::max(Crest[160] + 8, 108.0f), 88,
+                       0.5f);
         PaintSurf(P,
                   {{-10, Look.Foot + 2}, {Look.Spread * 0.5f, Look.Foot + 5}, {End, Look.Foot + 2}},
                   6 + 4 * float(I));
@@ -199,8 +201,8 @@ void PaintFalls(Scene& P)
 {
     const float H = Vary(P, 83, 189), X = Any(P.C, 280, 440);
     PaintSky(P, H);
-    Ranges(P, Hill::Alpine, 1, 110, H + 30, P.Snow ? 0.8f : 0.3f, 0);
     const float Lip = Any(P.C, 90, 140), Foot = Any(P.C, 285, 325), Breadth = Any(P.C, 26, 90);
+    Ranges(P, Hill::Alpine, 1, 110, std::max(H + 30, Lip + 60), P.Snow ? 0.8f : 0.3f, 0);
     HillLook Back;
     Back.Kind = Hill::Cliff;
     Back.Top = Lip - 60, Back.Foot = Foot;

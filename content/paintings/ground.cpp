@@ -35,12 +35,10 @@ void PaintWater(Scene& P, const Mask* Area, float Shore, float Ripple, float Dep
                 0.5f * Noise(float(X) / (Fine * 2.6f), float(Y) / (Fine * 0.45f), Seed + 1) - 0.75f;
             const float SX = float(X) + Wave * Ripple * (3 + 16 * Near);
             const float SY = 2 * Edge - float(Y) - 1 + Wave * Ripple * (5 + 46 * Near);
-            Rgb Mirror;
-            if (SY < 0)
-                Mirror = Sky(P, 1);
-            else
-                Mirror = Above[std::size_t(std::clamp(int(SY), 0, Height - 1) * Width +
-                                           std::clamp(int(SX), 0, Width - 1))];
+            // what would lie above the picture is like the sky at its upper edge
+            const float Row = SY < 0 ? std::min(-0.3f * SY, 0.25f * Edge) : SY;
+            const Rgb Mirror = Above[std::size_t(std::clamp(int(Row), 0, Height - 1) * Width +
+                                                 std::clamp(int(SX), 0, Width - 1))];
             const float Clear = Depth * (0.25f + 0.75f * Near);
             Rgb Colour = Mix(Times(Mirror, 0.93f), Deep, Clamp(Clear + 0.12f * Wave));
             if (Wave > 0.42f) Colour = Mix(Colour, Sky(P, 0.5f), 0.25f * Ripple);
@@ -69,6 +67,7 @@ void PaintWater(Scene& P, const Mask* Area, float Shore, float Ripple, float Dep
 void PaintSea(Scene& P, float Horizon, float Swell, Rgb Deep)
 {
     const std::uint32_t Seed = P.Seed + 720;
+    const std::vector<Rgb> Above = P.C.Px;
     Mask Covered(Width * Height, 0.0f);
     const Rgb Dark = Lit(P, Deep, 0.45f, 0.1f),
               Bright = Lit(P, Mix(Deep, Hex(0x78c8b8), 0.5f), 0.8f, 0.05f);
@@ -81,7 +80,13 @@ void PaintSea(Scene& P, float Horizon, float Swell, Rgb Deep)
             const float Crest = Ridged(U * 0.42f + Bent * 0.3f, V * 0.62f + Bent, 3, Seed + 1);
             const float Small = Fbm(U * 2.3f, V * 3.2f, 3, Seed + 2);
             const float H = (0.7f * Crest + 0.3f * Small);
-            const Rgb Shown = Sky(P, Clamp(0.06f + 0.5f * Near + 0.5f * (H - 0.5f)));
+            // the sky as it stands there, sunset or aurora, thrown about by the waves
+            const int MirrorX = int(float(X) + (Small - 0.5f) * 60 * Near),
+                      MirrorY = int(Horizon * (1 - 0.9f * Near) - (H - 0.6f) * 80 * Near);
+            const Rgb Shown = Mix(Sky(P, Clamp(0.06f + 0.5f * Near + 0.5f * (H - 0.5f))),
+                                  Above[std::size_t(std::clamp(MirrorY, 0, int(Horizon)) * Width +
+                                                    std::clamp(MirrorX, 0, Width - 1))],
+                                  0.65f * Clamp(float(MirrorY) / 40));
             Rgb Colour = Mix(Dark, Bright, Smooth(0.35f, 0.95f, H));
             Colour =
                 Mix(Colour, Shown, Clamp(0.80f - 0.62f * Near * Swell + 0.5f * (Small - 0.5f)));
@@ -97,6 +102,14 @@ void PaintSea(Scene& P, float Horizon, float Swell, Rgb Deep)
     }
     Repaint(P.C, &Covered,
             {{4.5f, 6, -1, 0.05f}, {2.2f, 7, 0.09f, 0.03f}, {1.2f, 6, 0.16f, 0.02f}});
+    for (int I = 0; I < 420; ++I) { // the backs of single waves catch the light, their hollows none
+        const float T = std::sqrt(Any(P.C)), X = Any(P.C, 0, Width),
+                    Y = Lerp(Horizon + 3, Height, T);
+        const Rgb Here = At(P.C, int(X), int(Y));
+        Dab(P.C, X, Y, (4 + 34 * T) * Any(P.C, 0.4f, 1.3f), 0.8f + 2.2f * T, 0.06f * AnyBell(P.C),
+            I % 2 ? Mix(Here, Sky(P, 0.12f), P.Night ? 0.45f : 0.3f) : Times(Here, 0.72f), 0.55f,
+            true);
+    }
 }
 
 void PaintGlitter(Scene& P, float From, float To, float Strength)

@@ -78,7 +78,7 @@ static std::vector<float> PaintTerrain(Scene& P, const HillLook& Look, std::uint
 {
     constexpr int Depth = 150; // steps from the foot to the back
     const bool Dune = Look.Kind == Hill::Dune;
-    const float Rise = Look.Foot - Look.Top, Lay = Rise * (Dune ? 0.42f : 0.18f);
+    const float Rise = Look.Foot - Look.Top, Lay = Dune ? 0.42f : 0.18f; // how we look down on it
     std::vector<float> Heights(std::size_t(Width + 1) * (Depth + 1));
     const auto Ground = [&](int X, int Z) -> float& {
         return Heights[std::size_t(Z * (Width + 1) + X)];
@@ -88,9 +88,9 @@ static std::vector<float> PaintTerrain(Scene& P, const HillLook& Look, std::uint
         for (int X = 0; X <= Width; ++X) {
             const float U = (float(X) + 2000) / Look.Grain, V = float(Z) / Depth;
             const float Off = (float(X) - Look.Centre) / Look.Spread;
-            Ground(X, Z) =
-                (Dune ? DuneAt(U, V, Seed) : MountainAt(U, V, Seed)) * std::exp(-Off * Off);
-            Highest = std::max(Highest, Ground(X, Z) + V * Lay / Rise);
+            Ground(X, Z) = ((Dune ? DuneAt(U, V, Seed) : MountainAt(U, V, Seed)) + V * Lay) *
+                           std::exp(-Off * Off);
+            Highest = std::max(Highest, Ground(X, Z));
         }
     const float Scale = Rise / Highest; // the highest summit stands at Top, wherever chance put it
     const Rgb Haze = Hex(P.L->Haze), White = Hex(0xf4f8ff), Woods = WoodColour(P);
@@ -103,7 +103,7 @@ static std::vector<float> PaintTerrain(Scene& P, const HillLook& Look, std::uint
         float& Top = Crest[std::size_t(X)];
         for (int Z = 0; Z < Depth; ++Z) {
             const float V = float(Z) / Depth, Here = Ground(X, Z);
-            const float Y = Look.Foot - (Here + V * Lay / Rise) * Scale;
+            const float Y = Look.Foot - Here * Scale;
             if (Y >= Top) continue;
             // the fall of the ground to the side and towards us
             const int Left = std::max(X - 3, 0), Right = std::min(X + 3, Width);

@@ -217,7 +217,7 @@ static void Beast(Scene& P, const std::string& Kind, float X, float Y, float S, 
             Stroke(P.C, Placed({{0.28f, 1.0f}, {0.22f - A, 1.12f}, {0.30f - A, 1.30f}}),
                    S * 0.016f + 0.2f, 0.4f, Shade);
     if (IsCamel) // its load
-        Dab(P.C, X - Hand * S * 0.03f, Y - S * 0.66f, S * 0.22f, S * 0.26f, 0,
+        Dab(P.C, X - Hand * S * 0.03f, Y - S * 0.68f, S * 0.13f, S * 0.20f, 0,
             Lit(P, Hex(0xb03c34), 0.6f, Far), 1);
     if (!IsDeer && !IsCamel && &Look == &Horse)
         Stroke(P.C, Placed({{0.18f, 0.68f}, {0.29f, 0.84f}, {0.40f, 0.99f}}), S * 0.035f, S * 0.02f,
@@ -305,7 +305,7 @@ void PaintLife(Scene& P, float Ground)
     if (Life == "deer" || Life == "horses" || Life == "camels") {
         const int Count = Life == "camels" ? 5 : 2 + AnyOf(P.C, 2);
         for (int I = 0; I < Count; ++I) {
-            const float S = Life == "camels" ? 27.0f : Any(P.C, 32, 44);
+            const float S = Life == "camels" ? Any(P.C, 34, 38) : Any(P.C, 32, 44);
             Beast(P, Life, X + float(I - Count / 2) * S * (Life == "camels" ? 1.7f : 1.9f),
                   Ground + AnyBell(P.C) * (Life == "camels" ? 2 : 8), S, Hand, 0.25f);
         }

@@ -12,11 +12,14 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
 
 constexpr int PictureCount = 360;
-constexpr int ThumbWidth = 36, ThumbHeight = 21;
+constexpr float EmptySpread = 2.5f; // of values 0 to 255
+constexpr int MostEmpty = 16, MostEmptyBelow = 12; // of 84 parts, and of the 36 lower ones
+constexpr int ThumbWidth = 16, ThumbHeight = 12;
 
 static std::string PictureName(int Number)
 {
@@ -124,6 +127,36 @@ TEST(Paintings, NoneIsFlatOrHasHoles)
     }
 }
 
+// A part of a small picture, in which the touch of single brushes no longer counts, where nothing is
+// painted: its values hardly differ from each other.
+static bool IsEmpty(const QImage& Image, const QRect& Part)
+{
+    float Sum = 0, Squares = 0, Count = 0;
+    for (int Y = Part.top(); Y <= Part.bottom(); ++Y)
+        for (int X = Part.left(); X <= Part.right(); ++X) {
+            const float Value = float(qGray(Image.pixel(X, Y)));
+            Sum += Value, Squares += Value * Value, ++Count;
+        }
+    const float Mean = Sum / Count;
+    return Squares / Count - Mean * Mean < EmptySpread * EmptySpread;
+}
+
+TEST(Paintings, NoneIsMostlyEmpty)
+{
+    constexpr int Columns = 12, Rows = 7, Side = 8;
+    for (int Number = 1; Number <= PictureCount; ++Number) {
+        const QImage Image = QImage(QString::fromStdString(PHOT "/" + PictureName(Number)), "JPG")
+                                 .scaled(Columns * Side, Rows * Side, Qt::IgnoreAspectRatio,
+                                         Qt::SmoothTransformation);
+        int Empty = 0, EmptyBelow = 0; // an empty sky is a sky; empty ground is a hole
+        for (int I = 0; I < Columns * Rows; ++I)
+            if (IsEmpty(Image, QRect(I % Columns * Side, I / Columns * Side, Side, Side)))
+                ++Empty, EmptyBelow += I / Columns >= 4;
+        EXPECT_LE(Empty, MostEmpty) << PictureName(Number);
+        EXPECT_LE(EmptyBelow, MostEmptyBelow) << PictureName(Number);
+    }
+}
+
 TEST(Paintings, NoTwoLookLikeSiblings)
 {
     for (int A = 0; A < PictureCount; ++A)
@@ -131,9 +164,10 @@ TEST(Paintings, NoTwoLookLikeSiblings)
             const Thumb &First = Thumbs()[std::size_t(A)], &Second = Thumbs()[std::size_t(B)];
             const float Colour = ColourDistance(First, Second);
             EXPECT_GT(Colour, 9) << PictureName(A + 1) << " and " << PictureName(B + 1);
-            // alike in form, they must at least be far apart in colour
+            // what lies where differs; if it is alike, they are at least far apart in colour
             const float Form =
                 std::max(FormLikeness(First, Second, false), FormLikeness(First, Second, true));
+            EXPECT_LT(Form, 0.93f) << PictureName(A + 1) << " and " << PictureName(B + 1);
             EXPECT_FALSE(Form > 0.90f && Colour < 24)
                 << PictureName(A + 1) << " and " << PictureName(B + 1);
         }
@@ -148,6 +182,30 @@ TEST(Paintings, NeighboursDifferStrongly)
             << PictureName(A + 1) << " and the next";
     }
 }
+
+#ifdef NDEBUG
+TEST(Paintings, AllArePaintedInUnderFourMinutesOnTwoCores)
+{
+    const std::filesystem::path Out =
+        std::filesystem::temp_directory_path() / ("paintings-time-" + std::to_string(getpid()));
+    rusage Before{}, After{};
+    getrusage(RUSAGE_CHILDREN, &Before);
+    int Painted = 0;
+    for (int Number = 16; Number <= PictureCount; Number += 31, ++Painted)
+        ASSERT_EQ(std::system(("QT_QPA_PLATFORM=offscreen '" MAKER "' '" + Out.string() + "' " +
+                               std::to_string(Number) + " " + std::to_string(Number))
+                                  .c_str()),
+                  0);
+    getrusage(RUSAGE_CHILDREN, &After);
+    // seconds of computing, whatever else the machine does
+    const auto Seconds = [](const rusage& Use) {
+        return double(Use.ru_utime.tv_sec + Use.ru_stime.tv_sec) +
+               double(Use.ru_utime.tv_usec + Use.ru_stime.tv_usec) / 1e6;
+    };
+    EXPECT_LT((Seconds(After) - Seconds(Before)) / Painted * PictureCount, 2 * 240);
+    std::filesystem::remove_all(Out);
+}
+#endif
 
 TEST(Paintings, AreMadeTheSameAgain)
 {
