@@ -18,8 +18,8 @@
 
 constexpr int PictureCount = 360;
 constexpr float EmptySpread = 2.5f; // of values 0 to 255
-constexpr int MostEmpty = 16, MostEmptyBelow = 12; // of 84 parts, and of the 36 lower ones
-constexpr int ThumbWidth = 16, ThumbHeight = 12;
+constexpr int MostEmpty = 16, MostEmptyBelow = 14; // of 84 parts, and of the 36 lower ones
+constexpr int ThumbWidth = 36, ThumbHeight = 21;
 
 static std::string PictureName(int Number)
 {
