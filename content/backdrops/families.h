@@ -5,7 +5,6 @@
 #include "recipe.h"
 
 // plain.cpp: smooth grounds
-Picture DrawUnauthored(const Recipe& R); // stands in for a backdrop nobody has drawn yet
 Picture DrawFelt(const Recipe& R);
 
 // speckle.cpp: many small grains

@@ -15,7 +15,6 @@ struct Family {
     Picture (*Draw)(const Recipe&);
 };
 constexpr Family FamilyTable[] = {
-    {"unauthored", DrawUnauthored},
     {"felt", DrawFelt},
     {"granite", DrawGranite},
     {"sand", DrawSand},
@@ -148,8 +147,7 @@ static void MakeBackdrops(const QString& OutDir, int First, int Last)
         } catch (const std::exception& Error) {
             throw std::runtime_error(Table + ":" + std::to_string(R.Line) + ": " + Error.what());
         }
-        std::printf("backdrop %2d %s%s\n", I, R.Name.c_str(),
-                    R.Family == "unauthored" ? ": NOT AUTHORED" : "");
+        std::printf("backdrop %2d %s\n", I, R.Name.c_str());
         std::fflush(stdout);
         if (I % GroupSize == 0 && I > 0 && First <= I - GroupSize + 1) {
             Files[FileName(9000 + I / GroupSize - 1)] = Encoded(Sheet, "png", 0);

@@ -3,11 +3,6 @@
 
 #include <cmath>
 
-Picture DrawUnauthored(const Recipe& R)
-{
-    return Picture(Width * Height, Colours(R, "ground").front());
-}
-
 // Short fibres in all directions under a slow change of shade.
 Picture DrawFelt(const Recipe& R)
 {
