@@ -17,7 +17,7 @@
 #include <vector>
 
 constexpr int PictureCount = 360;
-constexpr float EmptySpread = 2.5f; // of values 0 to 255
+constexpr float EmptySpread = 2.5f;                // of values 0 to 255
 constexpr int MostEmpty = 16, MostEmptyBelow = 14; // of 84 parts, and of the 36 lower ones
 constexpr int ThumbWidth = 36, ThumbHeight = 21;
 
@@ -127,8 +127,8 @@ TEST(Paintings, NoneIsFlatOrHasHoles)
     }
 }
 
-// A part of a small picture, in which the touch of single brushes no longer counts, where nothing is
-// painted: its values hardly differ from each other.
+// A part of a small picture, in which the touch of single brushes no longer counts, where nothing
+// is painted: its values hardly differ from each other.
 static bool IsEmpty(const QImage& Image, const QRect& Part)
 {
     float Sum = 0, Squares = 0, Count = 0;
