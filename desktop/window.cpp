@@ -198,13 +198,16 @@ static QPalette ListColours()
 // A list box in the look of the screen, which tells the rules before its list drops down.
 struct DropList : QComboBox {
     const Element& E;
-    bool Dropped = false; // asking view() would make the list
+    bool Dropped = false;
     explicit DropList(const Element& Owner) : QComboBox(Window), E(Owner)
     {
         static ListStyle* Style = nullptr;
         if (!Style) (Style = new ListStyle)->setParent(qApp);
         setStyle(Style);
         setPalette(ListColours());
+        // A new font lays out the whole list: now, while it is empty, and later by one item.
+        static_cast<QListView*>(view())->setUniformItemSizes(true);
+        setFont(ElementFont(E, View().Scale / View().Ratio));
         setModel(new QStringListModel(this));
         setMaxVisibleItems(16);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // measures no item
@@ -213,7 +216,6 @@ struct DropList : QComboBox {
     {
         SendDropDown(E);
         AfterEvent();
-        static_cast<QListView*>(view())->setUniformItemSizes(true);
         Dropped = true;
         QComboBox::showPopup();
     }
