@@ -78,7 +78,15 @@ void PaintPillars(Scene& P)
         PaintWater(P, nullptr, H + 66, 0.4f, 0.25f);
         Boat(P, "raft", Any(P.C, 300, 480), H + 84, 58, 0.1f);
     } else {
-        PaintMist(P, Height - 30, 70, 0.8f);
+        for (int I = 0; I < 3; ++I) { // wooded feet that rise out of the mist
+            HillLook Foot;
+            Foot.Foot = 390 + 40 * float(I), Foot.Top = Foot.Foot - Any(P.C, 50, 90);
+            Foot.Grain = Any(P.C, 120, 240), Foot.Far = 0.9f - 0.35f * float(I);
+            Foot.Local = WoodColour(P), Foot.Trees = 0.9f, Foot.Mist = 0.6f,
+            Foot.Snow = P.Snow ? 0.5f : 0;
+            PaintHill(P, Foot);
+            PaintMist(P, Foot.Foot - 20, 14, 0.5f, 1.5f);
+        }
     }
     const Mask Crag = Below({{-10, 300}, {70, 318}, {150, 366}, {200, 430}});
     PaintMeadow(P, &Crag, 270, Times(RockColour(P), 0.55f), Times(RockColour(P), 0.7f), 0.4f);

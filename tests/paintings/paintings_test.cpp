@@ -17,8 +17,8 @@
 #include <vector>
 
 constexpr int PictureCount = 360;
-constexpr float EmptySpread = 2.5f;                // of values 0 to 255
-constexpr int MostEmpty = 16, MostEmptyBelow = 14; // of 84 parts, and of the 36 lower ones
+constexpr float EmptySpread = 2.5f;               // of values 0 to 255
+constexpr int MostEmpty = 10, MostEmptyBelow = 8; // of 84 parts, and of the 36 lower ones
 constexpr int ThumbWidth = 36, ThumbHeight = 21;
 
 static std::string PictureName(int Number)
