@@ -5,13 +5,15 @@
 
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 
 namespace
 {
 
 std::string ErrorOf(const std::string& Table)
 {
-    const auto Path = std::filesystem::temp_directory_path() / "backdrop-recipes-test.txt";
+    const auto Path = std::filesystem::temp_directory_path() /
+                      ("backdrop-recipes-" + std::to_string(getpid()) + ".txt");
     std::ofstream(Path) << Table;
     try {
         ReadRecipes(Path.string());

@@ -34,6 +34,7 @@ colour_at() { convert "$SHOTS/$1.png" -format "%[pixel:p{$2,$3}]" info:; }
 # Agility: its clock tells whether the game goes on.
 printf '\0\0\0\0\0\0\0\0\0\0\2\0' >"$WORK/game/Settings.dat"
 start_game
+sleep 2 # the compositor starts at the same time
 asked set_fullscreen
 shot wayland-idle
 press imgbutStart

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <unistd.h>
 
 namespace
 {
@@ -20,10 +21,14 @@ struct ReadResult {
 
 ReadResult ReadText(const std::string& Text)
 {
-    const std::string File = testing::TempDir() + "layout_source.txt";
+    // A folder of its own: the tests run at the same time.
+    const std::string Folder = testing::TempDir() + "layouts-" + std::to_string(getpid());
+    std::filesystem::create_directory(Folder);
+    const std::string File = Folder + "/layout_source.txt";
     std::ofstream(File) << Text;
     ReadResult Result;
     ReadLayouts(File, 1, Result.Layouts, Result.Faults);
+    std::filesystem::remove_all(Folder);
     for (std::string& Fault : Result.Faults)
         Fault.erase(0, Fault.rfind('/') == std::string::npos ? 0 : Fault.rfind('/') + 1);
     return Result;
