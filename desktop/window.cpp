@@ -190,8 +190,6 @@ static QPalette ListColours()
     QPalette Colours;
     Colours.setColor(QPalette::Base, QColor("#f8f0d8"));
     Colours.setColor(QPalette::Text, QColor("#1e1a10"));
-    Colours.setColor(QPalette::Highlight, QColor("#2f6b4e"));
-    Colours.setColor(QPalette::HighlightedText, QColor("#fff8e0"));
     return Colours;
 }
 
