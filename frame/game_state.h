@@ -7,6 +7,7 @@
 
 #include "frame/checked.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -147,6 +148,9 @@ struct GameStateRecord {
     // Records in memory
     Table<ScoreEntry, Span<0, 6>, Span<0, 120>, Span<0, 11>> ScoreTable{"ScoreTable"};
     Table<HistoryRow, Span<0, 3>, Span<0, 3>, Span<0, 43>> History{"History"};
+    // The content of record files whose save failed, by path: the scores of a list, say, that the
+    // player has left since.
+    std::map<std::string, std::vector<std::uint8_t>> NotSaved;
 
     // Screens
     I16 ButtonDown;

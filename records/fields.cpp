@@ -164,6 +164,11 @@ RecordFile ReadRecordFile(const std::string& Path, int Size)
 {
     RecordFile File{false, Bytes(static_cast<std::size_t>(Size))};
     const std::string Host = HostPath(Path);
+    if (const auto Kept = GameState.NotSaved.find(Path); Kept != GameState.NotSaved.end()) {
+        File.Content = Kept->second;
+        File.Content.resize(static_cast<std::size_t>(Size));
+        return File;
+    }
     const int Handle = OpenForReading(Host);
     if (Handle == 0) {
         MakeMissingFile(Host);
@@ -203,14 +208,26 @@ static bool IsUnreadable(const std::string& Path)
     return Handle == 0 && FileExists(Path);
 }
 
+// Where one save succeeds, those that failed before get another try.
+static void SaveWhatWasKept()
+{
+    std::string Why;
+    std::erase_if(GameState.NotSaved,
+                  [&](const auto& Kept) { return WriteWholeFile(Kept.first, Kept.second, Why); });
+}
+
 void SaveRecordFile(const std::string& Path, RecordFile& File, const std::string& What,
                     bool KeepTail)
 {
     std::string Why;
-    bool Saved = false;
-    if (IsUnreadable(Path) || (KeepTail && !AppendTail(Path, File.Content)))
+    if (IsUnreadable(Path) || (KeepTail && !AppendTail(Path, File.Content))) {
         Why = "the old file cannot be read";
-    else
-        Saved = WriteWholeFile(Path, File.Content, Why);
-    if (!Saved) Platform.ReportTrouble("The " + What + " could not be saved: " + Why + ".");
+    } else if (WriteWholeFile(Path, File.Content, Why)) {
+        GameState.NotSaved.erase(Path);
+        SaveWhatWasKept();
+        return;
+    } else {
+        GameState.NotSaved[Path] = File.Content;
+    }
+    Platform.ReportTrouble("The " + What + " could not be saved: " + Why + ".");
 }

@@ -31,11 +31,13 @@ void Field32(RecordFile& File, int Offset, I32& Value, Legal Values = AnyNumber)
 void FieldText(RecordFile& File, int Offset, std::string& Text, int Width);
 
 // The first Size bytes of a file, never more. A file that is missing or cannot be read gives zeros;
-// a missing one is made, empty, if its folder stands.
+// a missing one is made, empty, if its folder stands. One whose save failed gives what it should
+// hold.
 RecordFile ReadRecordFile(const std::string& Path, int Size);
 RecordFile NewRecordFile(int Size);
 // Replaces the file by the content and by the further bytes of a longer file, which are kept only
-// with KeepTail. On failure the old file stands and the player is told that What was not saved.
+// with KeepTail. On failure the old file stands, the player is told that What was not saved, and
+// the content is kept for another try at the next save.
 void SaveRecordFile(const std::string& Path, RecordFile& File, const std::string& What,
                     bool KeepTail = false);
 

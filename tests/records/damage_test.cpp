@@ -176,6 +176,31 @@ TEST_F(Damage, AReadOnlyFolderKeepsTheOldFilesAndTheNewValuesInMemory)
     }));
 }
 
+TEST_F(Damage, ScoresThatCouldNotBeSavedOutliveATurnOfTheList)
+{
+    StartAnew();
+    PlayOneGame();
+    EXPECT_TRUE(PassesAsPlayer([] {
+        StartAnew();
+        chmod(Place("SCOR").c_str(), 0555);
+        PlayOneGame();
+        GameState.LayoutGroup = 1;
+        LoadScores();
+        EXPECT_EQ(GameState.ScoreTable(1, 19, 2).Score, 0);
+        GameState.LayoutGroup = 0;
+        LoadScores();
+        EXPECT_EQ(GameState.ScoreTable(1, 19, 2).Score, 12345);
+        GameState.LayoutGroup = 1;
+        LoadScores();
+        chmod(Place("SCOR").c_str(), 0755);
+        SaveSettings(); // another try for the scores as well
+        StartAnew();
+        GameState.LayoutGroup = 0;
+        LoadScores();
+        EXPECT_EQ(GameState.ScoreTable(1, 19, 2).Score, 12345);
+    }));
+}
+
 TEST_F(Damage, RandomBytesOfRandomLength)
 {
     std::mt19937 Chance(1);
