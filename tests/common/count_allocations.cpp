@@ -14,6 +14,13 @@ void* operator new(std::size_t Size)
     throw std::bad_alloc();
 }
 
+// A stable sort takes its room so. All forms are ours: the sanitizers want pairs.
+void* operator new(std::size_t Size, const std::nothrow_t&) noexcept
+{
+    ++Allocations;
+    return std::malloc(Size);
+}
+
 void operator delete(void* Memory) noexcept
 {
     std::free(Memory);
