@@ -42,7 +42,11 @@ static void SetControlBarHandlers()
         if (E.Panel == picBevelRight.Id || E.Panel == picNote.Id ||
             (E.Panel >= picGamePanel(1).Id && E.Panel <= picGamePanel(3).Id))
             SetHandlers(E, {.MouseMove = picBoard_MouseMove});
-    SetHandlers(picNote, {.MouseMove = picBoard_MouseMove, .Click = HideNoteOnClick});
+    // The bar between its buttons is what can be seen of the form.
+    SetHandlers(frmMain, {.Click = HideNoteOnClick});
+    for (const Element* Ground :
+         {&picBevelRight, &picGamePanel(1), &picGamePanel(2), &picGamePanel(3), &picNote})
+        SetHandlers(*Ground, {.MouseMove = picBoard_MouseMove, .Click = HideNoteOnClick});
 
     const auto Button = [](const Element& E, IndexHandler Press, IndexHandler Action) {
         SetHandlers(E, {.MouseMove = picBoard_MouseMove, .Press = Press, .Action = Action});
