@@ -11,7 +11,8 @@
 #include <limits>
 #include <string>
 
-// A whole number of the width of T (16 or 32 bits). Arithmetic is that of int; storing is checked.
+// A whole number of the width of T (8, 16 or 32 bits). Arithmetic is that of int; storing is
+// checked.
 template <typename T> struct Whole {
     T Value = 0;
 
@@ -41,6 +42,7 @@ template <typename T> struct Whole {
     }
 };
 
+using U8 = Whole<std::uint8_t>;
 using I16 = Whole<std::int16_t>;
 using I32 = Whole<std::int32_t>;
 

@@ -20,7 +20,8 @@ constexpr int LastLayoutIndex = 3000;
 struct ScoreEntry {
     std::string Name; // lower case
     I16 Score;
-    I16 Day, Month, Year; // Day and Month are filed as one byte each
+    U8 Day, Month;
+    I16 Year;
 };
 
 // One recorded game.

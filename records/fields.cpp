@@ -38,12 +38,12 @@ static int LegalOrZero(int Value, Legal Values)
     return Value >= Values.Low && Value <= Values.High ? Value : 0;
 }
 
-void FieldByte(RecordFile& File, int Offset, I16& Value, Legal Values)
+void FieldByte(RecordFile& File, int Offset, U8& Value)
 {
     if (File.Writing)
         PutNumber(File, Offset, 1, Value);
     else
-        Value = LegalOrZero(static_cast<int>(TakeNumber(File, Offset, 1)), Values);
+        Value = static_cast<int>(TakeNumber(File, Offset, 1));
 }
 
 void Field16(RecordFile& File, int Offset, I16& Value, Legal Values)

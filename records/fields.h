@@ -23,7 +23,7 @@ struct Legal {
 constexpr Legal AnyNumber = {-2147483647 - 1, 2147483647};
 constexpr Legal Flag = {0, 1};
 
-void FieldByte(RecordFile& File, int Offset, I16& Value, Legal Values = AnyNumber);
+void FieldByte(RecordFile& File, int Offset, U8& Value);
 void Field16(RecordFile& File, int Offset, I16& Value, Legal Values = AnyNumber);
 void Field32(RecordFile& File, int Offset, I32& Value, Legal Values = AnyNumber);
 // Writes the last characters of Text, as many as the width holds. Reads without the blanks at both
