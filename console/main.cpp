@@ -83,17 +83,22 @@ static std::string DesktopCommand(const Words& Given)
     return "ok";
 }
 
+// A 0 of the form stands for any digit.
+static bool HasForm(std::string_view Text, std::string_view Form)
+{
+    return std::equal(Text.begin(), Text.end(), Form.begin(), Form.end(),
+                      [](char C, char F) { return F == '0' ? C >= '0' && C <= '9' : C == F; });
+}
+
 static std::string ClockCommand(const Words& Given)
 {
-    int Y = 0, M = 0, D = 0, H = 0, Min = 0, S = 0, End = 0;
+    int Y = 0, M = 0, D = 0, H = 0, Min = 0, S = 0;
     const std::string Text = Given.size() == 2 ? Given[0].Text + " " + Given[1].Text : "";
-    const int Read =
-        std::sscanf(Text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &Y, &M, &D, &H, &Min, &S, &End);
+    std::sscanf(Text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d", &Y, &M, &D, &H, &Min, &S);
     const std::chrono::year_month_day Date{std::chrono::year(Y),
                                            std::chrono::month(static_cast<unsigned>(M)),
                                            std::chrono::day(static_cast<unsigned>(D))};
-    if (Read != 6 || End != static_cast<int>(Text.size()) || !Date.ok() || H < 0 || H > 23 ||
-        Min < 0 || Min > 59 || S < 0 || S > 59)
+    if (!HasForm(Text, "0000-00-00 00:00:00") || !Date.ok() || H > 23 || Min > 59 || S > 59)
         return "error: clock YYYY-MM-DD HH:MM:SS";
     ClockSetTo = std::chrono::sys_days(Date) + std::chrono::seconds(H * 3600 + Min * 60 + S);
     ClockSetAt = VirtualMilliseconds;
@@ -277,7 +282,7 @@ static std::string TypeCommand(const std::string& Text)
 {
     const Element* Box = Focused();
     if (!Box) return "error: no text box has the focus";
-    for (const std::string& Character : Characters(Text)) SendText(*Box, Box->Caption + Character);
+    for (const std::string& Character : Characters(Text)) SendCharacter(*Box, Character);
     return "ok";
 }
 
@@ -303,8 +308,9 @@ static std::string DropDownCommand(const Words& Given)
     return "ok";
 }
 
-static std::string ChooseCommand(const std::string& Rest)
+static std::string ChooseCommand(const std::string& Line)
 {
+    const std::string Rest = Line.substr(std::min(Line.find_first_not_of(' '), Line.size()));
     const std::size_t Blank = Rest.find(' ');
     const Element* Box = ListBoxByName(Rest.substr(0, Blank));
     if (!Box) return "error: no such list box";

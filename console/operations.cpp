@@ -112,7 +112,7 @@ static void PlaceRun(int X, int Y, int Z, int Count)
 // The file to open may be named as the game names it, "\DATA\AS0001".
 static int RunDictionaryCommand(const std::string& Word, int Code)
 {
-    auto Answered = static_cast<std::int16_t>(Code);
+    std::int16_t Answered = I16(Code).Value;
     DictionaryCommand(Code == OpenFile && Word.starts_with('\\') ? HostPath(Word) : Word, Answered);
     return Answered;
 }
@@ -203,6 +203,7 @@ static const std::map<std::string, Operation>& Operations()
         RULE(LoadDisplaySettings),
         RULE(BuildPlayerList),
         RULE(MasterScoreFor),
+        {"DrawPlayer", Call(MasterScoreFor)}, // one rule: the boxes are drawn while it sums
         RULE(ComputeStatistics),
         RULE(LowScoreLayout),
         RULE(SortPlayers),

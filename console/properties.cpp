@@ -8,7 +8,8 @@ const Element* ElementByName(const std::string& Text)
 {
     const std::optional<IndexedName> Name = ParseName(Text);
     if (!Name || Name->Indexes.size() > 1 || !Name->Field.empty()) return nullptr;
-    return FindElement(Name->Name, Name->Indexes.empty() ? -1 : Name->Indexes[0]);
+    if (Name->Indexes.empty()) return FindElement(Name->Name, -1);
+    return Name->Indexes[0] < 0 ? nullptr : FindElement(Name->Name, Name->Indexes[0]);
 }
 
 // The properties of each kind.
@@ -94,9 +95,12 @@ static std::optional<Picture> ParsePicture(const std::string& Name)
     }
     if (Name.size() == 12 && Name[0] == '\\') {
         const std::optional<int> Number = WholeNumber(Name.substr(8));
-        return Number ? std::optional(FilePicture(Name.substr(6, 2), *Number)) : std::nullopt;
+        const Picture File = FilePicture(Name.substr(6, 2), Number.value_or(0));
+        return PictureName(File) == Name ? std::optional(File) : std::nullopt;
     }
-    if (const Element* Stock = ElementByName(Name)) return StockPicture(*Stock);
+    const Element* Stock = ElementByName(Name);
+    if (Stock && Stock->Panel == frmClips.Id && Stock->Kind == ElementKind::Picture)
+        return StockPicture(*Stock);
     const std::optional<IndexedName> Cell = ParseName(Name);
     const Element* Store =
         Cell && Cell->Indexes.size() == 1 ? FindElement(Cell->Name, -1) : nullptr;
@@ -120,6 +124,8 @@ static std::optional<Colour> ParseColour(const std::string& Text)
 static std::string PutNumber(const Element& E, const std::string& Property, double Value)
 {
     const float New = static_cast<float>(Value);
+    const bool IsFlag = Property == "visible" || Property == "enabled" || Property == "focus";
+    if (IsFlag && Value != 0 && Value != 1) return "error: a flag is 1 or 0";
     if (Property == "interval" && Value < 1) return "error: an interval is 1 ms or more";
     if (Property == "left") SetPlace(E, New, E.Top);
     if (Property == "top") SetPlace(E, E.Left, New);

@@ -44,7 +44,8 @@ std::optional<int> WholeNumber(const std::string& Text)
 std::optional<double> RealNumber(const std::string& Text)
 {
     const std::optional<double> Value = ReadNumber<double>(Text);
-    return Value && std::isfinite(*Value) ? Value : std::nullopt;
+    // No length or place comes near; a number beyond would fit no int.
+    return Value && std::abs(*Value) <= 1e9 ? Value : std::nullopt;
 }
 
 std::optional<std::vector<Argument>> SplitArguments(std::string_view Line)

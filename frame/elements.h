@@ -194,6 +194,7 @@ void DeliverMouseDown(const Element& E, MouseButton Button, int X, int Y);
 void DeliverMouseUp(const Element& E, MouseButton Button, int X, int Y);
 void SendKeyDown(std::string_view Key, bool Shift, bool Ctrl, bool Alt); // "up", "a", ...
 void SendText(const Element& TextBox, std::string_view Text); // typed or pasted: the new text
+void SendCharacter(const Element& TextBox, std::string_view Character); // typed at its end
 void SendKeyPress(const Element& TextBox, int Key);
 void SendDropDown(const Element& ListBox);
 void SendChoice(const Element& ListBox, std::string_view Item);

@@ -71,12 +71,18 @@ const Element* SendMouseUp(MouseButton Button, float X, float Y)
 
 void SendKeyDown(std::string_view Key, bool Shift, bool Ctrl, bool Alt)
 {
-    if (MainKeyDown) MainKeyDown(Key, Shift, Ctrl, Alt);
+    if (MainKeyDown && frmMain.Visible) MainKeyDown(Key, Shift, Ctrl, Alt);
 }
 
 void SendText(const Element& TextBox, std::string_view Text)
 {
     SetText(TextBox, Text);
+}
+
+void SendCharacter(const Element& TextBox, std::string_view Character)
+{
+    AddToCaption(TextBox, Character);
+    if (TextBox.Does.Change) TextBox.Does.Change(TextBox.Index);
 }
 
 void SendKeyPress(const Element& TextBox, int Key)

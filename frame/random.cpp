@@ -32,7 +32,7 @@ void Randomize()
 
 int RandomBetween(int Low, int High)
 {
-    return Low + static_cast<int>(std::floor(Rnd() * (High - Low + 1)));
+    return static_cast<int>(Low + std::floor(Rnd() * (static_cast<double>(High) - Low + 1)));
 }
 
 void QueueRandom(std::vector<double> Values)

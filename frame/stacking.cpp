@@ -34,9 +34,10 @@ static void LinkBefore(Element& E, ElementId Behind) // NoElement: rearmost
         Panel.Rearmost = E.Id;
 }
 
+// A whole screen stands in no panel, so nothing lies over it or under it.
 void BringToFront(const Element& E)
 {
-    if (At(E.Panel).Foremost == E.Id) return;
+    if (E.Panel == NoElement || At(E.Panel).Foremost == E.Id) return;
     Element& Moved = At(E.Id);
     Unlink(Moved);
     ElementId Behind = At(E.Panel).Foremost;
@@ -48,7 +49,7 @@ void BringToFront(const Element& E)
 
 void SendToBack(const Element& E)
 {
-    if (At(E.Panel).Rearmost == E.Id) return;
+    if (E.Panel == NoElement || At(E.Panel).Rearmost == E.Id) return;
     Element& Moved = At(E.Id);
     Unlink(Moved);
     LinkBefore(Moved, NoElement);
