@@ -102,6 +102,10 @@ void PlaceTileRun(I16& X, int Y, int Z, int Count)
             FatalError("PlaceCursor " + std::to_string(GameState.PlaceCursor) +
                        " is outside 0..288");
         const int Tile = GameState.TileOrder(GameState.PlaceCursor);
+        // Entry 0 is spare: a cursor of 0 takes the scratch picture.
+        if (Tile == 0 && GameState.PlaceCursor > 0)
+            FatalError("TileOrder(" + std::to_string(GameState.PlaceCursor) +
+                       ") is 0 and should be 1..288");
         const Element& E = imgTile(Tile);
         SetPlace(E, static_cast<float>(RunLeft + LayerShift),
                  static_cast<float>(RunTop - LayerShift));
