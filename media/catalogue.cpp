@@ -126,14 +126,24 @@ void FillCatalogueNames()
     }
 }
 
+void LoadTileSet(const Element& E, int Number)
+{
+    LoadPicture(E, "TS", Number, TileSheetWidth, TileSheetHeight);
+}
+
+void LoadBackdrop(const Element& E, int Number)
+{
+    LoadPicture(E, "BD", Number, FullWidth, FullHeight);
+}
+
 void LoadNamedTileSet(int Number)
 {
-    LoadPicture(clpTileSet, "TS", Number, TileSheetWidth, TileSheetHeight);
+    LoadTileSet(clpTileSet, Number);
 }
 
 void LoadNamedBackdrop(int Number)
 {
-    LoadPicture(picBoard, "BD", Number, FullWidth, FullHeight);
+    LoadBackdrop(picBoard, Number);
 }
 
 void ChooseTileSet()

@@ -7,10 +7,12 @@
 
 // --- catalogue.cpp: tile sets and backdrops ---
 
-void FillCatalogueNames();          // the built-in names of tile sets and backdrops
-void LoadNamedTileSet(int Number);  // \DATA\TSnnnn into clpTileSet; 0 is the letter tiles
-void LoadNamedBackdrop(int Number); // \DATA\BDnnnn into picBoard
-void ChooseTileSet();               // at every new game, by the choices of the settings
+void FillCatalogueNames();                       // the built-in names of tile sets and backdrops
+void LoadTileSet(const Element& E, int Number);  // \DATA\TSnnnn; 0 is the letter tiles
+void LoadBackdrop(const Element& E, int Number); // \DATA\BDnnnn
+void LoadNamedTileSet(int Number);               // into clpTileSet
+void LoadNamedBackdrop(int Number);              // into picBoard
+void ChooseTileSet(); // at every new game, by the choices of the settings
 void ChooseBackdrop();
 
 // --- music.cpp: the rotation of tracks ---

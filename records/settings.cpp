@@ -65,27 +65,27 @@ static int PlaceInLayoutSets(int List)
     return 0;
 }
 
-static bool IsInstalled(int List)
+// A file of a content pack that was taken away since the last run.
+static bool IsGone(int List, const char* Prefix, int Number)
 {
-    return List < BuiltInLists || PlaceInLayoutSets(List) > 0;
+    return List >= BuiltInLists && PlaceInLayoutSets(List) == 0 &&
+           !FileExists(DataFile(Prefix, Number));
 }
 
-// The files of a content pack that was taken away since the last run are gone, and loading them
-// would be fatal at every start. What was chosen from it goes back to the first list, and a cycle
-// that stands past the last set begins again.
+// Loading a file that went with its content pack would be fatal at every start. What was chosen
+// from the pack goes back to the first list, and a cycle that stands past the last set begins
+// again. As long as the file is there the choice stands, whatever the scan has found.
 static void LeaveMissingPacks()
 {
     if (GameState.LayoutListCount == 0) return; // no scan yet: nothing is known to be missing
-    if (!IsInstalled(GameState.TileGroupShown)) {
-        GameState.TileGroupShown = 0;
-        GameState.TilePageCursor = 1;
-    }
-    if (!IsInstalled(GameState.LayoutGroup)) {
+    if (IsGone(GameState.LayoutGroup, "LY", 9000 + GameState.LayoutGroup)) {
         GameState.LayoutGroup = 0;
         GameState.LayoutSetCursor = 1;
     }
-    if (!IsInstalled((GameState.TileSetFixed - 1) / SetsPerGroup)) GameState.TileSetFixed = 0;
-    if (GameState.TileSetRotate > std::max<int>(GameState.TileSetCount, BuiltInTileSets))
+    if (IsGone((GameState.TileSetFixed - 1) / SetsPerGroup, "TS", GameState.TileSetFixed))
+        GameState.TileSetFixed = 0;
+    if (GameState.TileSetRotate > std::max<int>(GameState.TileSetCount, BuiltInTileSets) &&
+        !FileExists(DataFile("TS", GameState.TileSetRotate)))
         GameState.TileSetRotate = 1;
 }
 

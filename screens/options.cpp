@@ -1,6 +1,7 @@
 // options.cpp: the player's settings. Every change is made on a pending copy and shows at once;
 // only imgButOptionsAccept makes it real. Music alone reacts at once.
 #include "board/board.h"
+#include "frame/files.h"
 #include "media/media.h"
 #include "screens/screens.h"
 #include "words/word_play.h"
@@ -104,7 +105,7 @@ static void ShowGameType()
         SetPicture(imgGameType(I),
                    StockPicture(imgOptGame(I + 1 == GameState.OptGameType ? 1 : 0)));
     const bool Letters = GameState.OptGameType == Wisdom;
-    if (Letters) SetPicture(picWisdomSample, FilePicture("TS", 0));
+    if (Letters) LoadTileSet(picWisdomSample, 0);
     SetVisible(picWisdomSample, Letters);
     SetVisible(picTileSetPage, !Letters);
     SetVisible(lblTileSet, !Letters);
@@ -122,8 +123,19 @@ static void HidePreviews()
     GameState.SampleShown = 1;
 }
 
+// The sheet of a content pack that was taken away may have gone with it.
+static void LeaveMissingGroup()
+{
+    const int Group = GameState.TileGroupShown;
+    if (GameState.LayoutSets(GameState.TilePageCursor) == Group) return; // installed
+    if (FileExists(DataFile("TS", 9000 + Group))) return;
+    GameState.TileGroupShown = 0;
+    GameState.TilePageCursor = 1;
+}
+
 void OpenOptions()
 {
+    LeaveMissingGroup();
     GameState.OptGameType = GameState.GameType;
     GameState.OptMusicOn = GameState.MusicOn;
     GameState.OptSoundLevel = GameState.SoundLevel;
@@ -271,7 +283,7 @@ static void lblOptionsTileSet_MouseDown(int, MouseButton, int X, int Y)
     GameState.OptTileSet = GameState.TileGroupShown * SetsOfGroup + CellAt(X, Y) + 1;
     GameState.OptTileCycle = GameState.OptTileRandom = 0;
     ShowTileChoice();
-    SetPicture(picSample1, FilePicture("TS", GameState.OptTileSet));
+    LoadTileSet(picSample1, GameState.OptTileSet);
     SetPlace(picSample1, lblOptionsTileSet.Left, lblOptionsTileSet.Top);
     Show(picSample1);
     GameState.SampleShown = 0;
@@ -284,11 +296,11 @@ static void imgTileSetSample_MouseDown(int, MouseButton, int X, int Y)
     GameState.OptBackdropCycle = GameState.OptBackdropRandom = 0;
     ShowBackdropChoice();
     FrameBackdrop();
-    SetPicture(picBackSample, FilePicture("BD", GameState.OptBackdrop));
+    LoadBackdrop(picBackSample, GameState.OptBackdrop);
     Show(picBackSample);
     // Some tiles of the chosen set on the chosen backdrop.
     const int Set = GameState.OptGameType == Wisdom ? 0 : std::max(1, +GameState.OptTileSet);
-    SetPicture(picSample1, FilePicture("TS", Set));
+    LoadTileSet(picSample1, Set);
     SetPlace(picSample1, imgTileSetSample.Left, imgTileSetSample.Top + CellSize / 2);
     Show(picSample1);
     Hide(imgSingleTile);

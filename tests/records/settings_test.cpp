@@ -398,10 +398,11 @@ TEST_F(Settings, ChoicesFromAPackThatIsGoneGoBackToTheFirstList)
     EXPECT_EQ(GameState.LayoutGroup, 0);
     EXPECT_EQ(GameState.LayoutSetCursor, 1);
     EXPECT_EQ(GameState.LayoutNumber, 120);
-    EXPECT_EQ(GameState.TileGroupShown, 0);
-    EXPECT_EQ(GameState.TilePageCursor, 1);
     EXPECT_EQ(GameState.TileSetRotate, 1);
     EXPECT_EQ(GameState.TileSetFixed, 0);
+    // Its sheet is loaded when the options open and not before: no match leaves the cursor.
+    EXPECT_EQ(GameState.TileGroupShown, 5);
+    EXPECT_EQ(GameState.TilePageCursor, Model.TilePageCursor);
     Model.LayoutGroup = 6;
     Model.TileSetFixed = 6 * 24 + 24;
     Model.TileSetRotate = 120;
@@ -409,6 +410,22 @@ TEST_F(Settings, ChoicesFromAPackThatIsGoneGoBackToTheFirstList)
     EXPECT_EQ(GameState.LayoutGroup, 6);
     EXPECT_EQ(GameState.TileSetFixed, 168);
     EXPECT_EQ(GameState.TileSetRotate, 120);
+}
+
+TEST_F(Settings, ChoicesFromAPackWhoseFilesAreThereStandWithoutItsIndex)
+{
+    InstallPacks(); // lists 3 and 6; nothing in between
+    SettingsModel Model;
+    Model.LayoutGroup = 4;
+    Model.LayoutSetCursor = 9;
+    Model.TileSetRotate = 121;
+    Model.TileSetFixed = 4 * 24 + 1;
+    for (const char* File : {"DATA/LY9004", "DATA/TS0097", "DATA/TS0121"}) PutFile(File, "");
+    LoadFrom(Model.File());
+    EXPECT_EQ(GameState.LayoutGroup, 4);
+    EXPECT_EQ(GameState.LayoutSetCursor, 9); // as it stood: nothing matches
+    EXPECT_EQ(GameState.TileSetRotate, 121);
+    EXPECT_EQ(GameState.TileSetFixed, 97);
 }
 
 TEST_F(Settings, BeforeAScanOfThePacksNoneIsMissing)

@@ -39,10 +39,10 @@ inline std::string UnusableSetting()
     MUST(Between(GameState.BackdropRandom, 0, 1));
     MUST(GameState.BackdropFixed + GameState.BackdropRotate + GameState.BackdropRandom > 0);
     MUST(Between(GameState.CurrentTrack, 0, 30));
-    MUST(IsInstalledList(GameState.TileGroupShown));
+    MUST(Between(GameState.TileGroupShown, 0, 24));
+    MUST(Between(GameState.TilePageCursor, 1, 100));
     MUST(Between(GameState.BackdropGroupShown, 0, 1));
     MUST(IsInstalledList(GameState.LayoutGroup));
-    MUST(GameState.LayoutSets(GameState.TilePageCursor) == GameState.TileGroupShown);
     MUST(GameState.LayoutSets(GameState.LayoutSetCursor) == GameState.LayoutGroup);
     MUST(Between(GameState.RandomLayoutMode, 0, 6));
     MUST(Between(GameState.LayoutNumber, GameState.RandomLayoutMode == 0 ? 1 : 0, 120));
