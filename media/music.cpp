@@ -51,6 +51,7 @@ void lblSkipTrack_Click(int)
 {
     PlaySound("TIC");
     GameState.MusicOn = GameState.OptMusicOn = 1;
+    SetPicture(imgOptMusic, StockPicture(imgOption(1)));
     GameState.MusicPlaying = 1;
     NextTrack();
 }

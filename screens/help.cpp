@@ -39,11 +39,7 @@ void imgMenuHelp_Press(int)
 void imgMenuHelp_Action(int)
 {
     if (picHelp.Shows == NoPicture()) PrepareHelp(); // the press began on another button
-    ShowPanel(picHelp);
-    Hide(picMenu);
-    Hide(picBlack);
-    RefreshPanel();
-    Show(picContainer);
+    OpenFromMenu(picHelp);
 }
 
 // The page changes at the press: no action is left for the release.

@@ -17,6 +17,7 @@ static void CloseBox(const Element& Box)
     Hide(Box);
     Hide(picBlack);
     RefreshPanel();
+    FreeHiddenBackgrounds();
     SetClock(1);
 }
 

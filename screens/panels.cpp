@@ -27,6 +27,13 @@ void FreePanelBackground(const Element& Panel)
     SetPicture(Panel, NoPicture());
 }
 
+void FreeHiddenBackgrounds()
+{
+    for (const BackgroundRow& Row : Backgrounds)
+        if (!Row.Panel.Visible) FreePanelBackground(Row.Panel);
+    if (!picHelp.Visible) FreePanelBackground(picHelp);
+}
+
 void OpenFromMenu(const Element& Panel)
 {
     LoadPanelBackground(Panel);
@@ -35,6 +42,7 @@ void OpenFromMenu(const Element& Panel)
     Hide(picBlack);
     RefreshPanel();
     Show(picContainer);
+    FreeHiddenBackgrounds();
 }
 
 void CloseFullScreen(const Element& Panel)
