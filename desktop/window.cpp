@@ -176,12 +176,14 @@ static void SyncTextBox(const Element& E)
     if (Box->text() != Text) Box->setText(Text);
 }
 
-// The list drops down under its box, not over the screen.
+// The list drops down under its box, not over the screen. The wheel scrolls it there; over the
+// closed box it chooses nothing, since a choice takes the name from the other boxes.
 struct ListStyle : QProxyStyle {
     int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
                   QStyleHintReturn* Return) const override
     {
-        return Hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(Hint, Option, Widget, Return);
+        if (Hint == SH_ComboBox_Popup || Hint == SH_ComboBox_AllowWheelScrolling) return 0;
+        return QProxyStyle::styleHint(Hint, Option, Widget, Return);
     }
 };
 
@@ -202,6 +204,7 @@ struct DropList : QComboBox {
         static ListStyle* Style = nullptr;
         if (!Style) (Style = new ListStyle)->setParent(qApp);
         setStyle(Style);
+        setFocusPolicy(Qt::StrongFocus); // not by the wheel
         setPalette(ListColours());
         // A new font lays out the whole list: now, while it is empty, and later by one item.
         static_cast<QListView*>(view())->setUniformItemSizes(true);
@@ -347,6 +350,12 @@ static void AfterEvent()
 
 // --- input goes to the model ---
 
+// The further buttons of a mouse mean nothing to the game.
+static bool HasMeaning(const QMouseEvent* Event)
+{
+    return (Event->button() & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton)) != 0;
+}
+
 static MouseButton ButtonOf(const QMouseEvent* Event)
 {
     if (Event->button() == Qt::RightButton) return MouseButton::Right;
@@ -380,6 +389,7 @@ void GameWindow::mousePressEvent(QMouseEvent* Event)
     // A desktop that minimises no windows has left it where it was. (The second press of a double
     // click on the button comes too early to tell.)
     if (Event->type() == QEvent::MouseButtonPress) ComeBack();
+    if (!HasMeaning(Event)) return;
     const QPointF At = OnScreen(Event->position());
     SendMouseDown(ButtonOf(Event), static_cast<float>(At.x()), static_cast<float>(At.y()));
     AfterEvent();
@@ -387,6 +397,7 @@ void GameWindow::mousePressEvent(QMouseEvent* Event)
 
 void GameWindow::mouseReleaseEvent(QMouseEvent* Event)
 {
+    if (!HasMeaning(Event)) return;
     const QPointF At = OnScreen(Event->position());
     SendMouseUp(ButtonOf(Event), static_cast<float>(At.x()), static_cast<float>(At.y()));
     AfterEvent();
