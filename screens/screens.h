@@ -14,9 +14,9 @@ void SetScreenHandlers();
 void ShowPanel(const Element& Panel);           // visible and in front
 void LoadPanelBackground(const Element& Panel); // \DATA\ENnnnn, just before it opens
 void FreePanelBackground(const Element& Panel);
-void FreeHiddenBackgrounds(); // what a press loaded that was let go elsewhere
-void OpenFromMenu(const Element& Panel);                  // data and background stand ready
-void CloseFullScreen(const Element& Panel);               // back to the board; the clock goes on
+void FreeHiddenBackgrounds();               // what a press loaded that was let go elsewhere
+void OpenFromMenu(const Element& Panel);    // data and background stand ready
+void CloseFullScreen(const Element& Panel); // back to the board; the clock goes on
 void PassTo(const Element& Next, const Element& Former);  // one record screen to another
 void ShowChoice(const ElementArray& Options, int Chosen); // lights element Chosen, -1 for none
 std::string LayoutSetName(int List);                      // "A", "B", "C", or the pack's number
