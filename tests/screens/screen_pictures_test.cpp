@@ -446,6 +446,26 @@ TEST(Views, NoCaptionLeavesItsPlace)
     }
 }
 
+// The note under the graph stands between the marks of two sizes, with some room to them.
+TEST(Views, NothingIsPaintedBeneathTheNoteUnderTheGraph)
+{
+    BootGame();
+    PressAt(imgButMenu);
+    PressAt(imgMenuProfile);
+    const Point Place = ScreenPlace(lblProNote);
+    const QImage Screen = PaintedScreen(1);
+    double Darkest = 1, Lightest = 0;
+    for (float Y = 0; Y < lblProNote.Height; ++Y)
+        for (float X = 0; X < lblProNote.Width; ++X) {
+            const double Light =
+                Luminance(QColor(Screen.pixel(QPointF(Place.X + X, Place.Y + Y).toPoint())));
+            Darkest = std::min(Darkest, Light);
+            Lightest = std::max(Lightest, Light);
+        }
+    EXPECT_LT(Lightest - Darkest, .05);
+    EXPECT_LT(TextWidth(lblProNote, "Click to play Layout", 14) + 40, lblProNote.Width);
+}
+
 // Two states of the program must not look the same.
 TEST(Views, EveryViewLooksDifferent)
 {
