@@ -32,6 +32,15 @@ QFont FontThatFits(QFont Font, const QString& Text, double Width, double Scale)
     return Font;
 }
 
+// A typed name can be of any length: what has no room even in the smallest font ends in dots.
+static QString TextThatFits(const QString& Text, const QFont& Font, int Width)
+{
+    constexpr double Overhang = 1.05; // fonts come in whole pixels
+    const QFontMetrics Metrics(Font);
+    if (Metrics.horizontalAdvance(Text) <= Width * Overhang) return Text;
+    return Metrics.elidedText(Text, Qt::ElideRight, Width);
+}
+
 static void PaintCaption(QPainter& Painter, const ScreenView& View, const Element& E,
                          const QRect& Place)
 {
@@ -44,7 +53,7 @@ static void PaintCaption(QPainter& Painter, const ScreenView& View, const Elemen
     Painter.drawText(Place,
                      static_cast<int>(Places[static_cast<int>(E.Font.Place)] | Qt::AlignVCenter) |
                          Qt::TextSingleLine | Qt::TextDontClip,
-                     Text);
+                     TextThatFits(Text, Font, Place.width()));
 }
 
 static void PaintPicture(QPainter& Painter, const ScreenView& View, const Element& E,

@@ -446,6 +446,29 @@ TEST(Views, NoCaptionLeavesItsPlace)
     }
 }
 
+static QImage ScoresWithNewName(const std::string& Name)
+{
+    BootGame();
+    PressAt(imgbutStart);
+    GameState.Score = 500;
+    EndWonGame();
+    SendText(txtName, Name);
+    SendKeyPress(txtName, 13);
+    return PaintedScreen(1);
+}
+
+TEST(Views, ATypedNameOfAnyLengthStaysInItsPlace)
+{
+    const QImage Short = ScoresWithNewName("w");
+    const QImage Long = ScoresWithNewName(std::string(60, 'w'));
+    ASSERT_TRUE(picScores.Visible);
+    const Point Place = ScreenPlace(lblScrName(1));
+    const QRectF Room(Place.X, Place.Y, lblScrName(1).Width, lblScrName(1).Height);
+    const QRect Painted = Difference(Short, Long, Long.rect());
+    EXPECT_GT(Painted.width(), Room.width() / 2);
+    EXPECT_TRUE(Room.contains(Painted)) << Painted.right() << " is right of " << Room.right();
+}
+
 // The note under the graph stands between the marks of two sizes, with some room to them.
 TEST(Views, NothingIsPaintedBeneathTheNoteUnderTheGraph)
 {
