@@ -98,8 +98,9 @@ void imgPause_Action(int);
 // --- end_of_game.cpp: won, lost, given up ---
 
 void EndWonGame();
-// Table or no table: the panels of a finished game, its history line, its won count.
-void CongratulateOrAskName();
+// Table or no table: the panels of a finished game, its history line, its won count. Name stands
+// in the name box.
+void CongratulateOrAskName(const std::string& Name);
 // The box of a lost game; its count is on disk before the box is answered.
 void ShowLostGame();
 void imgCongratsOK_Action(int);

@@ -1,4 +1,5 @@
 #include "board/board.h"
+#include "records/fields.h"
 #include "records/records.h"
 #include "screens/screens.h"
 
@@ -22,16 +23,11 @@ static void RecordWithoutPlace()
     RecordGame(2, "-", "-", GameState.LayoutNumber, GameState.Score);
 }
 
-static void OfferName()
-{
-    SetText(txtName, GameState.LastName);
-}
-
-void CongratulateOrAskName()
+void CongratulateOrAskName(const std::string& Name)
 {
     ScoreRankFor(GameState.Score);
     Show(picBlack);
-    OfferName();
+    SetText(txtName, Name);
     if (GameState.ScoreRank < 1) {
         HideAllTiles();
         DisablePanel(0);
@@ -54,7 +50,7 @@ void EndWonGame()
     GameState.GameRunning = 0;
     DisablePanel(0);
     if (GameState.GameType == Finesse) AddWinBonus();
-    CongratulateOrAskName();
+    CongratulateOrAskName(LowerCase(GameState.LastName));
 }
 
 void imgCongratsOK_Action(int)
@@ -90,7 +86,7 @@ void imgNoMovesOK_Action(int)
 {
     ShowNote(NoteGameOver);
     ScoreRankFor(GameState.Score);
-    OfferName();
+    SetText(txtName, GameState.LastName);
     Hide(picNoMoves);
     if (GameState.ScoreRank < 1) {
         Hide(imgEndDIS);

@@ -127,7 +127,7 @@ static void ClearBoard()
     SetCaption(lblScore, std::to_string(GameState.Score));
     SetCaption(lblBonus, std::to_string(Bonus));
     ShowNote(NoteWinBonus);
-    CongratulateOrAskName();
+    CongratulateOrAskName(GameState.LastName);
 }
 
 void imgAcceptWord_Action(int)
