@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 
 constexpr const char* NoPlayer = "(NO PLAYER)";
 constexpr int Boxes = 12, GraphBoxes = 10; // boxes 1 to 10 are drawn, 11 and 12 are compared
@@ -36,12 +37,13 @@ static const std::string& NameIn(int Box)
 void BuildPlayerList()
 {
     std::vector<std::string> Names;
+    std::set<std::string> Known;
     for (int Layout = 1; Layout <= Layouts; ++Layout)
         for (int Place = 1; Place <= Places; ++Place) {
             const std::string& Name = Entry(Layout, Place).Name;
-            const bool Known = std::find(Names.begin(), Names.end(), Name) != Names.end();
             // A nameless entry stands only in a damaged file and is nobody's.
-            if (Entry(Layout, Place).Score > 0 && !Known && !Name.empty()) Names.push_back(Name);
+            if (Entry(Layout, Place).Score > 0 && !Name.empty() && Known.insert(Name).second)
+                Names.push_back(Name);
         }
     Names.push_back(NoPlayer);
     for (int Box = 1; Box <= Boxes; ++Box) {

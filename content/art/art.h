@@ -95,8 +95,9 @@ QImage Tinted(const QImage& Image, const QColor& Colour); // keeps alpha only
 QImage Relief(const QImage& Image, const std::vector<QColor>& Stops);
 QImage Scaled(const QImage& Image, int Width, int Height);             // smooth, also far down
 void DrawFitted(QPainter& P, const QImage& Image, const QRectF& Into); // keeps its shape
-// Writes a PNG whatever the file's name; makes missing folders. Ends the program on failure.
-void SavePng(const QImage& Image, const QString& Path);
+// Writes the format whatever the file's name; makes missing folders. Ends the program on failure.
+void SavePicture(const QImage& Image, const QString& Path, const char* Format = "PNG",
+                 int Quality = -1);
 
 // sources.cpp: fonts and pictures of installed packages. A missing file, glyph or emoji is fatal.
 // A font is loaded from its file, so that nothing depends on the machine's font settings.

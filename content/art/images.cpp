@@ -115,13 +115,14 @@ void DrawFitted(QPainter& P, const QImage& Image, const QRectF& Into)
     P.drawImage(QRectF(Into.center().x() - W / 2, Into.center().y() - H / 2, W, H), Ready);
 }
 
-void SavePng(const QImage& Image, const QString& Path)
+void SavePicture(const QImage& Image, const QString& Path, const char* Format, int Quality)
 {
     QDir().mkpath(QFileInfo(Path).path());
     QByteArray Bytes;
     QBuffer Buffer(&Bytes);
     Buffer.open(QIODevice::WriteOnly);
-    if (!Image.save(&Buffer, "PNG")) FatalError("cannot make a PNG for " + Path);
+    if (!Image.save(&Buffer, Format, Quality))
+        FatalError(QString("cannot make a %1 for %2").arg(Format, Path));
     QSaveFile File(Path);
     if (!File.open(QIODevice::WriteOnly) || File.write(Bytes) != Bytes.size() || !File.commit())
         FatalError("cannot write " + Path + ": " + File.errorString());

@@ -83,6 +83,6 @@ void WriteIcons(const QString& Folder)
         else
             DrawEmblemTile(P, QRectF(0, 0, Size, Size), Size < 64 ? 3 : 4);
         P.end();
-        SavePng(Image, Folder + QString("/ICON/%1.png").arg(Size));
+        SavePicture(Image, Folder + QString("/ICON/%1.png").arg(Size));
     }
 }

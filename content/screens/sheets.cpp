@@ -88,10 +88,10 @@ void WriteSheets(const FormPictures& Pictures, const QString& Folder)
         P.setCompositionMode(QPainter::CompositionMode_Source);
         for (const QImage* Image : Images) P.drawImage(Boxes[Image].topLeft(), *Image);
         P.end();
-        SavePng(Whole, Folder + QString("/DATA/FM%1").arg(On, 4, 10, QChar('0')));
+        SavePicture(Whole, Folder + QString("/DATA/FM%1").arg(On, 4, 10, QChar('0')));
         // Every place and size is even, so that half of it takes no colour from a neighbour.
-        SavePng(Whole.scaled(Whole.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-                Folder + QString("/DATA/FM%1").arg(HalfSheet + On, 4, 10, QChar('0')));
+        SavePicture(Whole.scaled(Whole.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                    Folder + QString("/DATA/FM%1").arg(HalfSheet + On, 4, 10, QChar('0')));
         for (const FormPicture& F : Pictures) {
             if (F.On != On) continue;
             const QRect Box = Boxes[Twin(Pictures, F)];

@@ -83,7 +83,7 @@ static QString DataFile(const QString& OutDir, int Number)
 static void MakeSets(const QString& OutDir, int First, int Last)
 {
     for (int Number = First; Number <= Last; ++Number) {
-        SavePng(DrawSheet(Number), DataFile(OutDir, Number));
+        SavePicture(DrawSheet(Number), DataFile(OutDir, Number));
         std::printf("tile set %d of %d\n", Number, SetCount);
         std::fflush(stdout);
     }
@@ -99,7 +99,7 @@ static void MakeSamples(const QString& OutDir)
             const QImage Layer = DrawFaceLayer([&](QPainter& P) { DrawFace(P, F); });
             PutCell(Sheet, I, Compose(DrawBody(TileNormal, *Set.Body), Layer));
         }
-        SavePng(Sheet, DataFile(OutDir, 9000 + Group));
+        SavePicture(Sheet, DataFile(OutDir, 9000 + Group));
     }
 }
 
@@ -117,7 +117,7 @@ static void MakeLookSheet(const QString& OutDir, int First, int Last)
             Cells.scaled(Cells.size() * Zoom, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     }
     P.end();
-    SavePng(Sheet, OutDir + "/sheet.png");
+    SavePicture(Sheet, OutDir + "/sheet.png");
 }
 
 int main(int Count, char** Values)
