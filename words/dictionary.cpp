@@ -289,8 +289,9 @@ void RunDictionary(const std::string& Word, std::int16_t& Code)
     DictionaryState.Target = Word;
     UpperCase(DictionaryState.Target);
     if (Command == AddInMiddle || Command == AddAtOverflow) {
-        // A word of one letter is good for every command; no file holds any.
-        Code = Word.size() == 1 ? std::int16_t{-1} : AddWord(Command == AddAtOverflow);
+        Code = AddWord(Command == AddAtOverflow);
+        // A word of one letter is good for every command, also where it cannot be stored.
+        if (Word.size() == 1) Code = -1;
         return;
     }
     if (PassesUnread(Word, Command)) {

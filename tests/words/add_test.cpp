@@ -113,10 +113,12 @@ TEST(AddWord, LeavesAFileWithAHeaderAlone)
     EXPECT_EQ(ReadFile(TestFile("main")), File);
 }
 
-TEST(AddWord, AWordOfOneLetterIsGoodWithoutBeingStored)
+TEST(AddWord, AWordOfOneLetterIsStoredLikeAnyOther)
 {
     for (const std::int16_t Code : {AddInMiddle, AddAtOverflow}) {
-        EXPECT_EQ(Add({"BEE,CAT"}, "A", Code), (Texts{"BEE,CAT"}));
+        EXPECT_EQ(Add({"BEE,CAT"}, "c", Code), (Texts{"BEE,C,\\AT"}));
+        EXPECT_EQ(Add({"A,BEE"}, "A", Code), (Texts{"A,BEE"}));
+        // Where it cannot be stored it is good all the same.
         const std::string File = Headed({2}, {"ACE,AGE"}, {IndexBlock({{2000, {{1, 1}}}})});
         Open("main", File);
         EXPECT_EQ(Ask("A", Code), -1);
