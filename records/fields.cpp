@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <string_view>
+#include <utility>
 
 static std::span<std::uint8_t> BytesAt(RecordFile& File, int Offset, int Width)
 {
@@ -74,27 +76,42 @@ static std::size_t CharacterLength(const std::string& Text, std::size_t I)
     return Length;
 }
 
-// UTF-8 to Latin-1. A character that a single byte cannot hold is filed as "?"; a byte that is no
-// UTF-8 is Latin-1 already.
+// A text on disk has one byte for a character, Windows-1252: Latin-1, but for these characters at
+// 0x80 to 0x9F. Five of those stand for none.
+constexpr std::string_view HighCharacters[32] = {
+    "€", "",  "‚", "ƒ", "„", "…", "†", "‡", "ˆ", "‰", "Š", "‹", "Œ", "", "Ž", "",
+    "",  "‘", "’", "“", "”", "•", "–", "—", "˜", "™", "š", "›", "œ", "", "ž", "Ÿ",
+};
+
+constexpr std::pair<std::string_view, std::string_view> HighCapitals[] = {
+    {"Š", "š"}, {"Œ", "œ"}, {"Ž", "ž"}, {"Ÿ", "ÿ"}};
+
+// The byte of a character of two bytes or more; "?" where there is none.
+static char SingleByte(std::string_view Character)
+{
+    const int Byte = static_cast<std::uint8_t>(Character[0]);
+    if (Byte == 0xC2 || Byte == 0xC3) return static_cast<char>(Byte << 6 | (Character[1] & 0x3F));
+    const auto* Found = std::find(std::begin(HighCharacters), std::end(HighCharacters), Character);
+    return Found == std::end(HighCharacters)
+               ? '?'
+               : static_cast<char>(0x80 + (Found - std::begin(HighCharacters)));
+}
+
+// From UTF-8; a byte that is no UTF-8 is a character of its own already.
 static std::string SingleBytes(const std::string& Text)
 {
     std::string Result;
     for (std::size_t I = 0, Length; I < Text.size(); I += Length) {
         Length = CharacterLength(Text, I);
-        const int Byte = static_cast<std::uint8_t>(Text[I]);
-        if (Length == 1)
-            Result += Text[I];
-        else if (Byte == 0xC2 || Byte == 0xC3)
-            Result += static_cast<char>(Byte << 6 | (Text[I + 1] & 0x3F));
-        else
-            Result += '?';
+        Result += Length == 1 ? Text[I] : SingleByte(std::string_view(Text).substr(I, Length));
     }
     return Result;
 }
 
 static bool IsVisible(std::uint8_t Byte)
 {
-    return (Byte > ' ' && Byte <= '~') || Byte >= 0xA0;
+    if (Byte >= 0x80 && Byte <= 0x9F) return !HighCharacters[Byte - 0x80].empty();
+    return Byte > ' ' && Byte != 0x7F;
 }
 
 static void AppendUtf8(std::string& Text, std::uint8_t Byte)
@@ -103,6 +120,8 @@ static void AppendUtf8(std::string& Text, std::uint8_t Byte)
         Text += ' ';
     } else if (Byte < 0x80) {
         Text += static_cast<char>(Byte);
+    } else if (Byte <= 0x9F) {
+        Text += HighCharacters[Byte - 0x80];
     } else {
         Text += static_cast<char>(0xC0 | (Byte >> 6));
         Text += static_cast<char>(0x80 | (Byte & 0x3F));
@@ -119,6 +138,9 @@ std::string Trimmed(const std::string& Text)
 std::string LowerCase(const std::string& Text)
 {
     std::string Result = Text;
+    for (const auto& [Capital, Small] : HighCapitals)
+        for (std::size_t I = 0; (I = Result.find(Capital, I)) != std::string::npos;)
+            Result.replace(I, Capital.size(), Small);
     for (std::size_t I = 0; I < Result.size(); ++I) {
         const auto Byte = static_cast<std::uint8_t>(Result[I]);
         if (Byte >= 'A' && Byte <= 'Z') Result[I] = static_cast<char>(Byte + 0x20);

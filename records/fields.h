@@ -1,8 +1,8 @@
 // fields.h: record files as fields at byte offsets. One walk over the fields serves reading and
 // writing alike, so that the two cannot drift apart.
 //
-// Numbers are little-endian. Texts are single-byte (Latin-1) and right-aligned in blanks; in memory
-// they are UTF-8.
+// Numbers are little-endian. Texts are single-byte (Windows-1252) and right-aligned in blanks; in
+// memory they are UTF-8.
 #pragma once
 
 #include "frame/files.h"
@@ -42,4 +42,4 @@ void SaveRecordFile(const std::string& Path, RecordFile& File, const std::string
                     bool KeepTail = false);
 
 std::string Trimmed(const std::string& Text);   // without blanks at both ends
-std::string LowerCase(const std::string& Text); // A to Z and the capitals of Latin-1
+std::string LowerCase(const std::string& Text); // all capitals that a byte can hold

@@ -1,3 +1,4 @@
+#include "records/fields.h"
 #include "tests/records/records_test.h"
 
 namespace
@@ -233,10 +234,28 @@ TEST_F(Settings, ANameIsSingleByteOnDiskAndUtf8InMemory)
     GameState.PlayerNames(1, 1) = "Zo\u00eb \u00c5se\u00df";
     GameState.PlayerNames(1, 2) = "\u0141uk\u20ac\U0001F004";
     SaveSettings();
-    EXPECT_EQ(FileContent("Settings.dat").substr(76, 24), "    Zo\xeb \xc5se\xdf       ?uk??");
+    EXPECT_EQ(FileContent("Settings.dat").substr(76, 24), "    Zo\xeb \xc5se\xdf       ?uk\x80?");
     LoadSettings();
     EXPECT_EQ(GameState.PlayerNames(1, 1), "Zo\u00eb \u00c5se\u00df");
-    EXPECT_EQ(GameState.PlayerNames(1, 2), "?uk??");
+    EXPECT_EQ(GameState.PlayerNames(1, 2), "?uk\u20ac?");
+}
+
+// Letters and signs of Windows-1252 that Latin-1 does not have.
+TEST_F(Settings, TheBytesFrom80To9FAreCharacters)
+{
+    std::string File(508, '\0');
+    File.replace(76, 36,
+                 "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c"
+                 "\x8e\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9a\x9b"
+                 "   \x9c\x9e\x9f   ole");
+    LoadFrom(File);
+    EXPECT_EQ(GameState.PlayerNames(1, 1), "€‚ƒ„…†‡ˆ‰Š‹Œ");
+    EXPECT_EQ(GameState.PlayerNames(1, 2), "Ž‘’“”•–—˜™š›");
+    EXPECT_EQ(GameState.PlayerNames(1, 3), "œžŸ   ole");
+    SaveSettings();
+    EXPECT_EQ(FileContent("Settings.dat").substr(76, 24), File.substr(76, 24));
+    EXPECT_EQ(FileContent("Settings.dat").substr(100, 12), "   \x9c\x9e\x9f   ole");
+    EXPECT_EQ(LowerCase("ŠŒŽŸ Ole"), "šœžÿ ole");
 }
 
 TEST_F(Settings, BytesThatAreNoUtf8AreFiledAsTheyAre)
@@ -252,7 +271,7 @@ TEST_F(Settings, BytesThatAreNoCharactersReadAsBlanks)
 {
     std::string File(508, '\0');
     File.replace(76, 12,
-                 std::string("\0\0\x01 a\x7f\x9f"
+                 std::string("\0\0\x01 a\x7f\x9d"
                              "b\n \0\0",
                              12));
     LoadFrom(File);
