@@ -120,6 +120,10 @@ static PictureHeader JpegHeader(int Handle, long long Length)
     std::uint8_t Segment[9], End[2];
     for (long long At = 2; ReadAt(Handle, At, Segment, 9) == 9 && Segment[0] == 0xFF;) {
         const int Type = Segment[1];
+        if (Type == 0xFF) { // a marker may have any number of these before it
+            ++At;
+            continue;
+        }
         const bool Frame =
             Type >= 0xC0 && Type <= 0xCF && Type != 0xC4 && Type != 0xC8 && Type != 0xCC;
         if (Frame) {

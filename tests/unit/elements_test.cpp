@@ -1,5 +1,6 @@
 #include "frame/files.h"
 #include "frame/frame.h"
+#include "tests/common/game_dir.h"
 
 #include <gtest/gtest.h>
 
@@ -213,4 +214,15 @@ TEST(PictureFile, HeadersAreReadAndCutFilesRefused)
               "is 720 by 540 pixels and should be 1 by 2");
     EXPECT_EQ(PictureFileTrouble("\\DATA\\TS8888", 0, 0), "is missing or cannot be read");
     EXPECT_EQ(PictureFileTrouble("\\DATA\\LY0000", 0, 0), "is no picture (PNG, JPEG or BMP)");
+}
+
+TEST(PictureFile, AMarkerOfAJpegMayHaveFillBytesBeforeIt)
+{
+    GameDirectory = FreshGameDirectory();
+    const Bytes Small = {0xFF, 0xD8, 0xFF, 0xFF, 0xFF, 0xC0, 0, 11,   8,   0,
+                         60,   0,    60,   1,    1,    0x11, 0, 0xFF, 0xD9};
+    std::string Why;
+    ASSERT_TRUE(WriteWholeFile("\\small.jpg", Small, Why)) << Why;
+    EXPECT_EQ(PictureFileTrouble("\\small.jpg", 60, 60), "");
+    std::filesystem::remove_all(GameDirectory);
 }
