@@ -25,7 +25,6 @@ inline void BootGame()
 {
     static long long Time;
     Time = 0;
-    Time = 0;
     GameState = GameStateRecord();
     GameDirectory = FreshGameDirectory();
     Platform.Milliseconds = [] { return Time; };
