@@ -6,6 +6,7 @@
 static void imgButMenu_Action(int)
 {
     SetClock(2);
+    HidePackLabels(); // a press on the packs may have been let go on the way out
     Show(picMenu);
     Show(picBlack);
     DisablePanel(0);
