@@ -66,9 +66,20 @@ static void CheckLatch()
     Demand(GameState.ButtonDown == 1 || Moved == 0, "a button stands pressed without the latch");
 }
 
+// Only the open screen holds its large picture, and under the menu those that a press has loaded.
+static void CheckPictures()
+{
+    if (picMenu.Visible || picExit.Visible) return;
+    for (const Element* Screen :
+         {&picOptions, &picHistory, &picScores, &picProfile, &picLayouts, &picHelp})
+        Demand(Screen->Visible || Screen->Shows == NoPicture(), "a closed screen holds its picture",
+               Screen);
+}
+
 static void CheckProgram()
 {
     CheckLatch();
+    CheckPictures();
     const int Full =
         CountShown({&picOptions, &picHistory, &picScores, &picProfile, &picLayouts, &picHelp});
     const int Boxes =
