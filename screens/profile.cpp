@@ -200,7 +200,9 @@ void SetProfileHandlers()
     SetHandlers(lblGraphType, {.MouseMove = picProfile_MouseMove, .Click = imgGraphType_Action});
     SetHandlers(imgGameTypeProfile, {.Action = imgGameTypeProfile_Action});
     SetHandlers(lblGameTypeProfile, {.Click = imgGameTypeProfile_Action});
-    SetHandlers(picGraph, {.MouseMove = picGraph_MouseMove, .Click = picGraph_Click});
+    SetHandlers(picGraph, {.MouseDown = picGraph_MouseMove, // a finger comes without a move
+                           .MouseMove = picGraph_MouseMove,
+                           .Click = picGraph_Click});
     SetHandlers(picProfile, {.MouseMove = picProfile_MouseMove});
     SetHandlers(lblStatA, {.Click = lblStatA_Click});
     SetHandlers(lblStatB, {.Click = lblStatB_Click});
