@@ -76,8 +76,10 @@ struct DurabilityOnDisk : Durability {
 
 TEST_F(DurabilityOnDisk, AKillAtAnyTimeLeavesTheOldFileOrTheNewOne)
 {
+    // How many kills fall into a save is the machine's affair: enough of them must.
+    constexpr int Enough = 10, Rounds = 250, MostRounds = 4000;
     int KilledInASave = 0;
-    for (int Round = 0; Round < 250; ++Round) {
+    for (int Round = 0; Round < Rounds || (KilledInASave < Enough && Round < MostRounds); ++Round) {
         const pid_t Child = fork();
         if (Child == 0) SaveForEver();
         usleep(static_cast<useconds_t>(1000 + Round * 37 % 8000));
@@ -88,7 +90,7 @@ TEST_F(DurabilityOnDisk, AKillAtAnyTimeLeavesTheOldFileOrTheNewOne)
         SaveAllRecords(); // the next save takes away what the killed one left
         ASSERT_EQ(FilesBeside(), 0);
     }
-    EXPECT_GT(KilledInASave, 20); // or the test would hit nothing
+    EXPECT_GE(KilledInASave, Enough); // or the test would hit nothing
 }
 
 // Every system call is a place where the disk can be between two states.
