@@ -15,8 +15,9 @@ inline std::string FreshGameDirectory()
     const std::string Folder = Base + "/pagodas-test-" + std::to_string(getpid());
     std::filesystem::remove_all(Folder);
     std::filesystem::create_directories(Folder);
-    std::filesystem::create_symlink(std::string(PAGODAS_GAME_DIR) + "/DATA", Folder + "/DATA");
-    std::filesystem::create_symlink(std::string(PAGODAS_GAME_DIR) + "/PHOT", Folder + "/PHOT");
+    const std::filesystem::path Made = PAGODAS_GAME_DIR;
+    for (const char* Part : {"DATA", "PHOT"})
+        std::filesystem::create_symlink(Made / Part, std::filesystem::path(Folder) / Part);
     return Folder;
 }
 
