@@ -87,8 +87,10 @@ inline std::string Place(const std::string& File)
 }
 inline std::string FileContent(const std::string& File)
 {
-    std::ifstream In(Place(File), std::ios::binary);
-    return {std::istreambuf_iterator<char>(In), {}};
+    std::ifstream In(Place(File), std::ios::binary | std::ios::ate);
+    std::string Content(In ? static_cast<std::size_t>(In.tellg()) : 0, '\0');
+    In.seekg(0).read(Content.data(), static_cast<std::streamsize>(Content.size()));
+    return Content;
 }
 inline void PutFile(const std::string& File, const std::string& Content)
 {
