@@ -21,11 +21,8 @@ cmake --preset coverage "$@" >"$report/configure.log" 2>&1 || { cat "$report/con
 cmake --build --preset coverage --target unit-tests pagodas-console bots monkey >"$report/build.log" ||
     { tail -40 "$report/build.log"; exit 1; }
 find "$report" -name '*.gcda' -delete
-# The unit tests in one process: three hundred would write the counts three hundred times.
-{
-    "$report/tests/unit-tests" --gtest_brief=1 &&
-        ctest --test-dir "$report" -j2 -L 'transcript|bots' --output-on-failure
-} >"$report/tests.log" 2>&1 || { tail -40 "$report/tests.log"; exit 1; }
+ctest --test-dir "$report" -j2 -L 'unit|transcript|bots' --output-on-failure >"$report/tests.log" 2>&1 ||
+    { tail -40 "$report/tests.log"; exit 1; }
 gcovr --root . -j2 --filter "($(echo $folders | tr ' ' '|'))/" "$report" \
     --exclude-throw-branches --exclude-unreachable-branches --sort-percentage \
     --html-details "$report/report.html" --txt "$report/report.txt" --print-summary \

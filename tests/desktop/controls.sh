@@ -18,8 +18,7 @@ name() { sed -n "$1p" "$WORK/names"; } # the N-th of the list
 [ "$(wc -l <"$WORK/names")" -gt 1200 ] || fail "the list of players is short"
 
 keys() {
-    for key; do xdotool key "$key"; sleep 0.15; done
-    sleep 0.3
+    for key; do xdotool key "$key"; settle; done
 }
 # changed A B: the number of pixels that differ between two screenshots
 changed() {
@@ -30,7 +29,6 @@ start_game
 press imgButMenu
 press imgMenuProfile
 xdotool mousemove 5 600
-sleep 0.3
 shot controls-profile
 
 # Box 1: dropped down by the pointer; the list scrolls with the wheel; Escape leaves it as it was.
@@ -39,15 +37,12 @@ shot controls-dropped
 [ "$(changed controls-profile controls-dropped)" -gt 5000 ] || fail "the list did not drop down"
 # shellcheck disable=SC2046
 xdotool mousemove $(middle_of "cboPlayerList(4)")
-sleep 0.2
 shot controls-dropped-pointer
 xdotool click 5 click 5 click 5
-sleep 0.4
 shot controls-scrolled
 [ "$(changed controls-dropped-pointer controls-scrolled)" -gt 2000 ] || fail "the list did not scroll"
 keys Escape
 xdotool mousemove 5 600
-sleep 0.3
 shot controls-escaped
 [ "$(changed controls-profile controls-escaped)" -lt 3000 ] || fail "Escape did not close the list"
 
@@ -55,11 +50,10 @@ shot controls-escaped
 # shellcheck disable=SC2046
 xdotool mousemove $(middle_of "cboPlayerList(5)")
 xdotool click 5
-sleep 0.3
+settle
 xdotool click 5 click 5 click 5 click 4
-sleep 0.4
+settle
 xdotool mousemove 5 600
-sleep 0.3
 shot controls-wheel
 [ "$(changed controls-escaped controls-wheel)" -lt 3000 ] || fail "the wheel chose a name"
 # Box 1, closed but with the keyboard, which the wheel over the other has left here: Down takes the
@@ -68,7 +62,7 @@ keys Down
 # The further buttons of a mouse, 8 and 9, press nothing: the profile stays.
 # shellcheck disable=SC2046
 xdotool mousemove $(middle_of imgProCancel) click 8 click 9
-sleep 0.3
+settle
 # Box 1 again: the second name.
 press "cboPlayerList(1)"
 keys Escape Down
@@ -81,7 +75,6 @@ keys End Up Return
 # Box 4: type-ahead finds a name by its first letters.
 press "cboPlayerList(4)"
 xdotool type --delay 20 "$(name 700)"
-sleep 0.3
 shot controls-typed
 keys Return
 # Box 6: a list opened in the lower half, by keys again.
@@ -89,7 +82,6 @@ press "cboPlayerList(6)"
 shot controls-sixth
 keys Home Down Down Down Down Down Down Down Return
 xdotool mousemove 5 600
-sleep 0.3
 shot controls-chosen
 
 press imgProOK

@@ -10,7 +10,6 @@ start_game
 shot first-idle
 press imgbutStart
 xdotool mousemove 5 300
-sleep 0.5
 shot first-dealt
 
 # The places of a dealt "Bridges" do not depend on the shuffle.
@@ -51,7 +50,7 @@ cp "$WORK/game/Settings.dat" "$WORK/saved"
 start_game
 shot second-idle
 xdotool search --name "^Pagodas\$" windowactivate --sync
-sleep 0.3
+settle
 xdotool key alt+F4 # the window manager asks the window to close
 wait_for_end
 cmp -s "$WORK/game/Settings.dat" "$WORK/saved" || fail "the desktop's close wrote the settings"

@@ -10,14 +10,7 @@ cmake --install "$BUILD" --prefix "$WORK/usr" >/dev/null || fail "the game was n
 export XDG_DATA_HOME="$WORK/home"
 own="$WORK/home/pagodas"
 
-start_installed() {
-    "$WORK/usr/games/pagodas" 2>"$WORK/errors" &
-    program=$!
-    sleep 6
-    kill -0 "$program" 2>/dev/null || fail "the game did not stay up: $(cat "$WORK/errors")"
-}
-
-start_installed
+start_game "$WORK/usr/games/pagodas"
 shot installed
 [ "$(od -An -tu1 -j12 -N1 "$own/Settings.dat" | tr -d ' ')" = 1 ] || fail "music is not on"
 [ -r "$own/DATA/TS0001" ] || fail "the player's DATA lacks the tile sets"
@@ -27,7 +20,7 @@ wait "$program" 2>/dev/null || true
 echo mine >"$own/DATA/XP0001x"                      # what a player adds
 rm "$own/DATA/BD0001"
 echo old >"$own/pagodas"                            # a program of an older version
-start_installed
+start_game "$WORK/usr/games/pagodas"
 [ "$(cat "$own/DATA/XP0001x")" = mine ] || fail "a file of the player was lost"
 [ -r "$own/DATA/BD0001" ] || fail "a lost backdrop did not come back"
 cmp -s "$own/pagodas" "$WORK/usr/lib/pagodas/pagodas" || fail "an old program was kept"

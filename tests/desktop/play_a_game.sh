@@ -20,14 +20,13 @@ echo "tiles left: $left"
 [ "$left" -lt 144 ] || fail "the bot took no pair"
 
 # The first score of all gets a place, won or lost: the name is typed into the window.
-sleep 0.5
 shot played-name
 paste() { # TEXT from another program
     "$CLIPBOARD" "$1" &
     clipboard=$!
     sleep 1
     xdotool key ctrl+v
-    sleep 0.5
+    settle
     kill "$clipboard"
 }
 # A paste of a page with control characters is one line of bounded length.
@@ -37,22 +36,18 @@ kill -0 "$program" || fail "the paste ended the game"
 # Twelve of the widest letters fit the box.
 xdotool key ctrl+a
 xdotool type 'WWWWWWWWWWWW'
-sleep 0.3
 shot played-widest
 # Nothing typed, nothing to press: the button is covered.
 xdotool key ctrl+a BackSpace
-sleep 0.3
 shot played-empty
 # An input method gives a letter that no key has; a control character becomes a blank.
 xdotool type 'Jos'
 xdotool key Multi_key apostrophe e
 paste "$(printf '\001\tBot')"
-sleep 0.3
 shot played-typed
 xdotool key Return
-sleep 0.7
+settle
 xdotool mousemove 3 300
-sleep 0.3
 shot played-scores
 press imgOKScores
 shot played-idle
@@ -81,7 +76,6 @@ start_game
 press imgButMenu
 press imgMenuScores
 xdotool mousemove 3 300
-sleep 0.5
 shot played-scores-again
 press imgOKScores
 press lblCloseGame

@@ -29,21 +29,18 @@ shot_as() { shot "${RECORDS:-}${RECORDS:+-}$1"; }
 start_game
 press imgbutStart
 xdotool mousemove 5 300
-sleep 0.3
 shot_as board
 board=$SHOTS/${RECORDS:-}${RECORDS:+-}board.png
 
 # look NAME: the picture differs from the board's in many places
 look() {
     xdotool mousemove 3 300
-    sleep 0.4
     shot_as "$1"
     difference=$(compare -metric AE -fuzz 3% "$board" "$SHOTS/${RECORDS:-}${RECORDS:+-}$1.png" null: 2>&1 || true)
     awk -v d="$difference" 'BEGIN { exit !(d > 20000) }' || fail "$1 did not open"
 }
 board_is_back() {
     xdotool mousemove 5 300
-    sleep 0.4
     shot_as back
     difference=$(compare -metric AE -fuzz 3% "$board" "$SHOTS/${RECORDS:-}${RECORDS:+-}back.png" null: 2>&1 || true)
     awk -v d="$difference" 'BEGIN { exit !(d < 200) }' || fail "the board is not back after $1 ($difference pixels)"
@@ -53,7 +50,7 @@ press imgButMenu; look menu
 press imgMenuScores; look scores
 press imgButHistoryScores; look history
 press imgHisProfile; look profile
-press picGraph; sleep 0.2; shot_as profile-hover
+press picGraph; shot_as profile-hover
 press "lblGameTypeProfile(1)"; look profile-agility
 press imgProOK; board_is_back profile
 press imgButMenu; press imgMenuOptions; look options

@@ -64,7 +64,7 @@ cp "$RECORDS/Settings.dat" "$WORK/second"
 [ "$(stat -c %s "$WORK/second")" = 508 ] || fail "the second game's settings are not whole"
 kill -0 "$older" 2>/dev/null || fail "the first game fell with the second"
 program=$older
-sleep 1
+settle
 press lblCloseGame
 wait_for_end
 [ "$(stat -c %s "$RECORDS/Settings.dat")" = 508 ] || fail "the first game's settings are not whole"

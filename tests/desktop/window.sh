@@ -6,6 +6,8 @@
 set -eu
 export QT_QPA_PLATFORM=xcb SDL_AUDIODRIVER=dummy LC_ALL=C
 SHOTS=${SHOTS:-$PWD/desktop-shots}
+PATIENCE=1 # 1: half a minute for a start, a press, an end
+CALM=4     # twentieths of a second without work: what was asked is done
 mkdir -p "$SHOTS"
 WORK=$(mktemp -d)
 export XDG_RUNTIME_DIR="$WORK/run"
@@ -39,7 +41,7 @@ open_display() {
     rm -f "$WORK/display"
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$WORK/display" 2>/dev/null &
     server=$!
-    for _ in $(seq 50); do
+    for _ in $(seq 300); do
         [ ! -s "$WORK/display" ] || break
         sleep 0.1
     done
@@ -54,20 +56,54 @@ use_window_manager() {
     sleep 0.5
 }
 
-shot() { import -window root "$SHOTS/$1.png"; }
+# settle: the game has done what it was asked: it, its display and the window manager sleep through
+# CALM. However busy the machine is, what waits for a processor does not count as asleep.
+settle() {
+    calm=0
+    for _ in $(seq $((600 * PATIENCE))); do
+        states=
+        for process in $program $server $window_manager; do
+            state=Z # it has ended
+            read -r _ _ state _ 2>/dev/null <"/proc/$process/stat" || true
+            states=$states$state
+        done
+        case $states in
+        Z*) return 0 ;;
+        *[!S]*) calm=0 ;;
+        *) calm=$((calm + 1)) ;;
+        esac
+        [ "$calm" -lt "$CALM" ] || return 0
+        sleep 0.05
+    done
+    fail "the game does not come to rest"
+}
 
-# start_game: returns when the main screen stands.
+shot() {
+    settle
+    import -window root "$SHOTS/$1.png"
+}
+
+# start_game [COMMAND...]: returns when the main screen stands. The logo and the title sleep through
+# five seconds; what a busy machine adds to them is no sleep.
 start_game() {
-    "$WORK/game/pagodas" 2>"$WORK/errors" &
+    [ $# != 0 ] || set -- "$WORK/game/pagodas"
+    "$@" 2>"$WORK/errors" &
     program=$!
-    sleep 5.5
-    kill -0 "$program" 2>/dev/null || fail "the game did not stay up: $(cat "$WORK/errors")"
-    sleep 0.5
+    asleep=0
+    for _ in $(seq $((600 * PATIENCE))); do
+        kill -0 "$program" 2>/dev/null || fail "the game did not stay up: $(cat "$WORK/errors")"
+        read -r _ _ game _ <"/proc/$program/stat"
+        [ "$game" != S ] || asleep=$((asleep + 1))
+        [ "$asleep" -lt 54 ] || break
+        sleep 0.1
+    done
+    [ "$asleep" = 54 ] || fail "the game did not come up"
+    settle
 }
 
 # wait_for_end: the program must end by itself with status 0.
 wait_for_end() {
-    for _ in $(seq 50); do
+    for _ in $(seq $((300 * PATIENCE))); do
         kill -0 "$program" 2>/dev/null || break
         sleep 0.1
     done
@@ -95,10 +131,14 @@ point_at() {
     xdotool mousemove "$1" "$2"
 }
 
+# The button is let go when the press has arrived: of a click that takes no time, a window manager that
+# looks at the press first may lose the release.
 press() {
     # shellcheck disable=SC2046
     point_at $(middle_of "$1")
-    sleep 0.1
-    xdotool click 1
-    sleep 0.4
+    settle
+    xdotool mousedown 1
+    settle
+    xdotool mouseup 1
+    settle
 }

@@ -45,11 +45,11 @@ static void Sleep(int Milliseconds)
     std::this_thread::sleep_for(std::chrono::milliseconds(Milliseconds * Patience));
 }
 
+// With a time between press and release, or a window manager may lose the release.
 static void ClickAt(double X, double Y)
 {
     Run("xdotool mousemove " + std::to_string(static_cast<int>(X)) + " " +
-        std::to_string(static_cast<int>(Y)) + " click 1");
-    Sleep(60);
+        std::to_string(static_cast<int>(Y)) + " mousedown 1 sleep 0.06 mouseup 1");
 }
 
 static QImage Look()

@@ -51,7 +51,6 @@ away_and_back "full screen"
 place_is '0 0 1920 1080'
 
 press 'imgWindowMode(0)'
-sleep 1
 shot window-mode
 x=$(place | cut -d ' ' -f 1)
 y=$(place | cut -d ' ' -f 2)
@@ -65,14 +64,12 @@ frame_y=$(((y - 156) / 2))
 window $((448 + frame_x)) $((156 + frame_y))
 goes_on "in the window"
 for key in Up Left Left Down Down; do xdotool key shift+$key; done
-sleep 0.5
 place_is "$((x - 20)) $((y + 10)) 1024 768"
 window $((428 + frame_x)) $((166 + frame_y))
 away_and_back "window"
 place_is "$((x - 20)) $((y + 10)) 1024 768"
 
 press 'imgWindowMode(1)'
-sleep 1
 place_is '0 0 1920 1080'
 full_screen
 press lblCloseGame

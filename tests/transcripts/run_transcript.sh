@@ -13,7 +13,7 @@
 set -eu
 console=$(realpath "$1") game=$(realpath "$2") transcript=$3
 
-work=$(mktemp -d)
+work=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d) # in memory where that can be: a thousand links
 trap 'rm -rf "$work"' EXIT
 for folder in DATA PHOT; do
     mkdir -p "$work/game/$folder"
