@@ -125,6 +125,7 @@ static void MoveToElement()
         if (E.Kind == ElementKind::Screen || E.Kind == ElementKind::Timer ||
             E.Kind == ElementKind::Store || !IsShown(E) || E.Width < 1)
             continue;
+        if (E.Id == lblCloseGame.Id && Draw(4) > 0) continue; // a start costs as much as 50 events
         const Point Place = ScreenPlace(E);
         X = Place.X + static_cast<float>(Draw(static_cast<int>(E.Width)));
         Y = Place.Y + static_cast<float>(Draw(static_cast<int>(E.Height) + 1));

@@ -80,7 +80,7 @@ settle() {
 
 shot() {
     settle
-    import -window root "$SHOTS/$1.png"
+    import -window root -define png:compression-level=1 "$SHOTS/$1.png" # packing takes its time
 }
 
 # start_game [COMMAND...]: returns when the main screen stands. The logo and the title sleep through
