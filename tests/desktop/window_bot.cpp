@@ -49,7 +49,9 @@ static void Sleep(int Milliseconds)
 static void ClickAt(double X, double Y)
 {
     Run("xdotool mousemove " + std::to_string(static_cast<int>(X)) + " " +
-        std::to_string(static_cast<int>(Y)) + " mousedown 1 sleep 0.06 mouseup 1");
+        std::to_string(static_cast<int>(Y)) + " mousedown 1");
+    Sleep(60);
+    Run("xdotool mouseup 1");
 }
 
 static QImage Look()

@@ -49,6 +49,9 @@ TEST_F(Files, OnlyTheBytesThatAreNeededAreRead)
     std::ofstream(HostPath("\\DATA\\XP0001")) << "short";
     ASSERT_TRUE(ReadFileStart("\\DATA\\XP0001", Content, 9));
     EXPECT_EQ(std::string(Content.begin(), Content.end()), "short");
+    std::ofstream(HostPath("\\DATA\\XP0001")) << "s";
+    ASSERT_TRUE(ReadFileStart("\\DATA\\XP0001", Content, 9));
+    EXPECT_EQ(std::string(Content.begin(), Content.end()), "s");
     EXPECT_FALSE(ReadFileStart("\\DATA", Content, 9));
     EXPECT_FALSE(ReadFileStart("\\DATA\\XP0002", Content, 9));
     EXPECT_TRUE(Content.empty());
@@ -59,6 +62,15 @@ TEST_F(Files, AHugePictureOfEmptyChunksIsRefusedAtOnce)
 {
     PutHuge("\x89PNG\r\n\x1a\n");
     EXPECT_EQ(PictureFileTrouble("\\DATA\\XP0001", 1024, 768), "is cut short");
+}
+
+TEST_F(Files, TheLastChunkOfAPictureMustBeWhole)
+{
+    std::string Png("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\4\0\0\0\3\0\x8\2\0\0\0crc.", 33);
+    Png += std::string("\0\0\0\0IENDcrc.", 12);
+    EXPECT_EQ(TroubleOf(Png), "");
+    Png[36] = 1; // one byte of data more than there is
+    EXPECT_EQ(TroubleOf(Png), "is cut short");
 }
 
 TEST_F(Files, TheHeightOfABitmapMayBeAnyNumber)
