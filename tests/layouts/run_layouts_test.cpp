@@ -120,3 +120,20 @@ TEST(RunLayouts, BridgesBeginsAndEndsAsWritten)
     EXPECT_TRUE(Is(Runs[85], 11, 2, 4, 2));
     EXPECT_TRUE(Is(Runs[95], 12, 7, 6, 1));
 }
+
+// A wrong number on one side of a table would break it. Every layout is as wide as the board's 23
+// half tiles; two are not the same from above and below.
+TEST(RunLayouts, EachIsTheSameFromLeftAndRight)
+{
+    for (const RunTableRow& Row : RunTable) {
+        SCOPED_TRACE(Row.Number);
+        const std::vector<Place> Places = PlacesOf(Row.Number);
+        const std::set<Place> All(Places.begin(), Places.end());
+        const bool SameUpsideDown = Row.Number != 53 && Row.Number != 60;
+        for (const auto& [Z, X, Y] : Places) {
+            EXPECT_TRUE(All.contains({Z, 24 - X, Y})) << X << ", " << Y << " on layer " << Z;
+            EXPECT_TRUE(!SameUpsideDown || All.contains({Z, X, 14 - Y}))
+                << X << ", " << Y << " on layer " << Z;
+        }
+    }
+}

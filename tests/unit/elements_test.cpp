@@ -141,6 +141,13 @@ TEST(HitTest, TheTopmostVisibleElementTakesThePoint)
     Show(imgTile(2));
     EXPECT_EQ(HitTest(330, 220), &imgTile(2));
     EXPECT_EQ(HitTest(305, 205), &imgTile(1));
+    // The first pixels of its left and upper edge are its own, those behind the others are not.
+    const float Right = 300 + imgTile(1).Width, Bottom = 200 + imgTile(1).Height;
+    for (const auto [X, Y] : {Point{300, 200}, Point{Right - 1, 200}, Point{300, Bottom - 1}})
+        EXPECT_EQ(HitTest(X, Y), &imgTile(1)) << X << ", " << Y;
+    for (const auto [X, Y] :
+         {Point{299, 200}, Point{300, 199}, Point{Right, 200}, Point{300, Bottom}})
+        EXPECT_EQ(HitTest(X, Y), &picBoard) << X << ", " << Y;
     EXPECT_EQ(HitTest(10, 300), &picBoard);
     Show(picBlack);
     EXPECT_EQ(HitTest(330, 220), &picBlack);

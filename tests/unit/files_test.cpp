@@ -57,6 +57,21 @@ TEST_F(Files, OnlyTheBytesThatAreNeededAreRead)
     EXPECT_TRUE(Content.empty());
 }
 
+TEST_F(Files, WhatWasReadIsClosed)
+{
+    const auto OpenFiles = [] {
+        const std::filesystem::directory_iterator All("/proc/self/fd");
+        return std::distance(begin(All), end(All));
+    };
+    std::ofstream(HostPath("\\DATA\\XP0001")) << "pagodas";
+    const auto Before = OpenFiles();
+    Bytes Content;
+    EXPECT_TRUE(ReadFileStart("\\DATA\\XP0001", Content, 9));
+    EXPECT_FALSE(ReadFileStart("\\DATA", Content, 9));
+    EXPECT_EQ(PictureFileTrouble("\\DATA\\XP0001", 9, 9), "is no picture (PNG, JPEG or BMP)");
+    EXPECT_EQ(OpenFiles(), Before);
+}
+
 // Each empty chunk would be a step of twelve bytes.
 TEST_F(Files, AHugePictureOfEmptyChunksIsRefusedAtOnce)
 {
