@@ -13,7 +13,7 @@ click_at() {
     xdotool mousemove $1
     sleep 0.3
     before=$(cpu)
-    xdotool click 1
+    xdotool mousedown 1 sleep 0.05 mouseup 1 # as press does: with a time between
     sleep 0.7
     since "$before" "$(cpu)"
 }

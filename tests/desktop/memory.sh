@@ -16,7 +16,7 @@ start_at=$(middle_of imgbutStart)
 yes_at=$(middle_of imgEndYES)
 click() {
     # shellcheck disable=SC2086
-    xdotool mousemove $1 sleep 0.05 click 1 sleep 0.15
+    xdotool mousemove $1 sleep 0.05 mousedown 1 sleep 0.05 mouseup 1 sleep 0.1
 }
 start_game
 idle=$(pss Pss)

@@ -3,8 +3,6 @@
 #include "tests/records/usable_state.h"
 
 #include <csignal>
-#include <iostream>
-#include <linux/magic.h>
 #include <poll.h>
 #include <sched.h>
 #include <sys/inotify.h>
@@ -12,7 +10,6 @@
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
-#include <sys/vfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -79,12 +76,6 @@ struct DurabilityOnDisk : Durability {
     }
 }
 
-bool IsInMemory(const std::string& Folder)
-{
-    struct statfs Status = {};
-    return statfs(Folder.c_str(), &Status) == 0 && Status.f_type == TMPFS_MAGIC;
-}
-
 // Tells of every file that is made in the game directory.
 int WatchFolders()
 {
@@ -125,9 +116,7 @@ TEST_F(DurabilityOnDisk, AKillAtAnyTimeLeavesTheOldFileOrTheNewOne)
         ASSERT_EQ(FilesBeside(), 0);
     }
     close(Watch);
-    std::cout << KilledInASave << " kills hit a save" << std::endl;
-    // Or the test would hit nothing; a disk in memory is done before it can be hit.
-    EXPECT_TRUE(KilledInASave > 20 || IsInMemory(GameDirectory));
+    EXPECT_GT(KilledInASave, 20); // or the test would hit nothing
 }
 
 // Every system call is a place where the disk can be between two states.
